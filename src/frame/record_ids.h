@@ -1,0 +1,147 @@
+// The id words by which functions recognise their context records: the first word of every record.
+#pragma once
+#include <stdint.h>
+
+namespace tav {
+
+// Four letters, the first in the most significant byte.
+constexpr uint32_t letters(const char (&text)[5]) {
+  return uint32_t(uint8_t(text[0])) << 24 | uint32_t(uint8_t(text[1])) << 16 | uint32_t(uint8_t(text[2])) << 8
+         | uint8_t(text[3]);
+}
+
+// "FI01", "II14": a family's letters and two digits.
+constexpr uint32_t numbered(const char (&family)[3], int n) {
+  return letters({family[0], family[1], char('0' + n / 10), char('0' + n % 10), 0});
+}
+
+// An enumerator is named by family and types; FIR has single-rate (sr) and multi-rate (mr) records, IIR records of
+// arbitrary order (ar), biquad cascades (bq) and biquads in direct form 1 (df1).
+enum class record_id : uint32_t {
+  none = 0,  // a released record
+
+  fft_c_16sc       = 1,
+  fft_c_16s        = 2,
+  fft_r_16s        = 3,
+  fft_c_32fc       = 4,
+  fft_c_32f        = 5,
+  fft_r_32f        = 6,
+  fft_c_64fc       = 7,
+  fft_c_64f        = 8,
+  fft_r_64f        = 9,
+  dft_c_16sc       = 10,
+  dft_c_16s        = 11,
+  dft_r_16s        = 12,
+  dft_c_32fc       = 13,
+  dft_c_32f        = 14,
+  dft_r_32f        = 15,
+  dft_c_64fc       = 16,
+  dft_c_64f        = 17,
+  dft_r_64f        = 18,
+  dct_fwd_16s      = 19,
+  dct_inv_16s      = 20,
+  dct_fwd_32f      = 21,
+  dct_inv_32f      = 22,
+  dct_fwd_64f      = 23,
+  dct_inv_64f      = 24,
+  rand_uniform_8u  = 35,
+  rand_uniform_16s = 36,
+  rand_uniform_32f = 37,
+  rand_gauss_8u    = 38,
+  rand_gauss_16s   = 39,
+  rand_gauss_32f   = 40,
+  wt_fwd_32f       = 41,
+  wt_fwd_8u32f     = 42,
+  wt_fwd_8s32f     = 43,
+  wt_fwd_16u32f    = 44,
+  wt_fwd_16s32f    = 45,
+  wt_inv_32f       = 50,
+  wt_inv_32f8u     = 51,
+  wt_inv_32f8s     = 52,
+  wt_inv_32f16u    = 53,
+  wt_inv_32f16s    = 54,
+
+  hilbert_32f32fc    = letters("CMAE"),
+  hilbert_16s32fc    = letters("CMAF"),
+  hilbert_16s16sc    = letters("CMAG"),
+  tone_16s           = letters("CMAH"),
+  triangle_16s       = letters("CMAI"),
+  dft_out_ord_c_32fc = letters("CMAJ"),
+  dft_out_ord_c_64fc = letters("CMAK"),
+  fft_c_32sc         = letters("CMAL"),
+  fft_c_32s          = letters("CMAM"),
+  fft_r_32s          = letters("CMAN"),
+  fft_r_16s32s       = letters("CMAO"),
+  lms_32f            = letters("LMS1"),
+  lms32f_16s         = letters("LMS\0"),
+  lms_mr32s_16s      = letters("LMSR"),
+  lms_mr32sc_16sc    = letters("LMSC"),
+
+  fir_sr_32f        = numbered("FI", 1),
+  fir_mr_32f        = numbered("FI", 3),
+  fir_sr_32fc       = numbered("FI", 2),
+  fir_mr_32fc       = numbered("FI", 4),
+  fir_sr_32f_16s    = numbered("FI", 5),
+  fir_mr_32f_16s    = numbered("FI", 7),
+  fir_sr_32fc_16sc  = numbered("FI", 6),
+  fir_mr_32fc_16sc  = numbered("FI", 8),
+  fir_sr_32s_16s    = numbered("FI", 9),
+  fir_mr_32s_16s    = numbered("FI", 11),
+  fir_sr_32sc_16sc  = numbered("FI", 10),
+  fir_mr_32sc_16sc  = numbered("FI", 12),
+  fir_sr_64f        = numbered("FI", 13),
+  fir_mr_64f        = numbered("FI", 15),
+  fir_sr_64fc       = numbered("FI", 14),
+  fir_mr_64fc       = numbered("FI", 16),
+  fir_sr_64f_32f    = numbered("FI", 17),
+  fir_mr_64f_32f    = numbered("FI", 19),
+  fir_sr_64fc_32fc  = numbered("FI", 18),
+  fir_mr_64fc_32fc  = numbered("FI", 20),
+  fir_sr_64f_32s    = numbered("FI", 21),
+  fir_mr_64f_32s    = numbered("FI", 23),
+  fir_sr_64fc_32sc  = numbered("FI", 22),
+  fir_mr_64fc_32sc  = numbered("FI", 24),
+  fir_sr_64f_16s    = numbered("FI", 25),
+  fir_mr_64f_16s    = numbered("FI", 27),
+  fir_sr_64fc_16sc  = numbered("FI", 26),
+  fir_mr_64fc_16sc  = numbered("FI", 28),
+  fir_sr_16s        = numbered("FI", 29),
+  fir_mr_16s        = numbered("FI", 30),
+  fir_sr_stream_16s = numbered("FI", 31),
+  fir_mr_stream_16s = numbered("FI", 32),
+  fir_sr_stream_32f = numbered("FI", 33),
+  fir_mr_stream_32f = numbered("FI", 34),
+
+  iir_ar_32f       = numbered("II", 1),
+  iir_bq_32f       = numbered("II", 2),
+  iir_ar_32fc      = numbered("II", 3),
+  iir_bq_32fc      = numbered("II", 4),
+  iir_ar_32f_16s   = numbered("II", 5),
+  iir_bq_32f_16s   = numbered("II", 6),
+  iir_ar_32fc_16sc = numbered("II", 7),
+  iir_bq_32fc_16sc = numbered("II", 8),
+  iir_ar_32s_16s   = numbered("II", 9),
+  iir_bq_32s_16s   = numbered("II", 10),
+  iir_ar_32sc_16sc = numbered("II", 11),
+  iir_bq_32sc_16sc = numbered("II", 12),
+  iir_ar_64f       = numbered("II", 13),
+  iir_bq_64f       = numbered("II", 14),
+  iir_ar_64fc      = numbered("II", 15),
+  iir_bq_64fc      = numbered("II", 16),
+  iir_ar_64f_32f   = numbered("II", 17),
+  iir_bq_64f_32f   = numbered("II", 18),
+  iir_ar_64fc_32fc = numbered("II", 19),
+  iir_bq_64fc_32fc = numbered("II", 20),
+  iir_ar_64f_32s   = numbered("II", 21),
+  iir_bq_64f_32s   = numbered("II", 22),
+  iir_ar_64fc_32sc = numbered("II", 23),
+  iir_bq_64fc_32sc = numbered("II", 24),
+  iir_ar_64f_16s   = numbered("II", 25),
+  iir_bq_64f_16s   = numbered("II", 26),
+  iir_ar_64fc_16sc = numbered("II", 27),
+  iir_bq_64fc_16sc = numbered("II", 28),
+  iir_df1_32f      = numbered("II", 29),
+  iir_df1_64f_32s  = numbered("II", 30),
+};
+
+}  // namespace tav
