@@ -19,7 +19,7 @@ namespace tav::TAV_VARIANT {
 inline constexpr size_t never = ~size_t(0);
 
 struct kernel_shape {
-  int    vector_from;           // below this length the scalar loop does all the work
+  int    vector_from;           // below this length the scalar loop does all the work; at least a register less one
   int    round_bytes;           // bytes of dst in one round of the main loop
   int    step         = 0;      // elements in one call of many(); 0: as many as one register of dst holds
   size_t stream_above = never;  // rounds above which stores bypass the cache
@@ -86,6 +86,7 @@ TAV_INLINE void rounds_and_tail(Op& op, D* dst, size_t head, size_t rounds, size
 
 template <class Op, class D, class... S>
 TavStatus elementwise(Op op, D* dst, size_t len, S... src) {
+  static_assert(Op::shape.vector_from >= lanes<D> - 1, "the head must fit into the shortest array that has one");
   if (len < size_t(Op::shape.vector_from)) {
     scalar_loop(op, dst, 0, len, src...);
     return status_of(op);

@@ -101,8 +101,7 @@ TAV_INLINE void copy(void* to, const void* from, size_t n) {
   const auto dst = static_cast<Tav8u*>(to);
   const auto src = static_cast<const Tav8u*>(from);
   if (n <= small_block) return move_small(dst, src, n);
-  if (n > Plan.ask_above && tav_cache_bytes != 0 && n > tav_cache_bytes / 2)
-    return stream(dst, src, n, Plan.stream_block);
+  if (n > Plan.ask_above && copy_streams(Plan, n)) return stream(dst, src, n, Plan.stream_block);
   forward<access::aligned>(dst, src, n);
 }
 
@@ -179,6 +178,10 @@ void fill_bytes(void* to, __m128i pattern, int width, size_t n, bool past_cache)
 }
 
 void zero_bytes(void* dst, size_t n) { fill_bytes(dst, _mm_setzero_si128(), 1, n, byte_fill_streams(n)); }
+
+bool copy_streams(const copy_plan& plan, size_t n) {
+  return n > plan.ask_above && tav_cache_bytes != 0 && n > tav_cache_bytes / 2;
+}
 
 bool byte_fill_streams(size_t n) { return n > 0x80000 && tav_cache_bytes != 0 && n >= tav_cache_bytes; }
 

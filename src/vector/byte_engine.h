@@ -24,6 +24,9 @@ void fill_bytes(void* dst, __m128i pattern, int width, size_t n, bool past_cache
 // Zero bytes; past the size of the last-level cache the stores bypass it.
 void zero_bytes(void* dst, size_t n);
 
+// Whether a copy under a plan bypasses the cache.
+bool copy_streams(const copy_plan& plan, size_t n);
+
 // Whether a fill of single bytes, or one of elements of `width` bytes, bypasses the cache.
 bool byte_fill_streams(size_t n);
 bool element_fill_streams(size_t elements, size_t width);
