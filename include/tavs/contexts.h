@@ -17,7 +17,9 @@ extern "C" {
 /** @defgroup contexts Context records
  *  @{ */
 
-/* Fourier transforms of power-of-two length */
+/** @name Fourier transforms of power-of-two length
+ *  @{ */
+/** A Fourier transform of one power-of-two length. */
 typedef struct FftContext_C_16s    FftContext_C_16s;
 typedef struct FftContext_C_16sc   FftContext_C_16sc;
 typedef struct FftContext_C_32f    FftContext_C_32f;
@@ -31,8 +33,11 @@ typedef struct FftContext_R_16s32s FftContext_R_16s32s;
 typedef struct FftContext_R_32f    FftContext_R_32f;
 typedef struct FftContext_R_32s    FftContext_R_32s;
 typedef struct FftContext_R_64f    FftContext_R_64f;
+/** @} */
 
-/* Fourier transforms of any length */
+/** @name Fourier transforms of any length
+ *  @{ */
+/** A Fourier transform of one length. */
 typedef struct DftContext_C_16s        DftContext_C_16s;
 typedef struct DftContext_C_16sc       DftContext_C_16sc;
 typedef struct DftContext_C_32f        DftContext_C_32f;
@@ -44,21 +49,30 @@ typedef struct DftContext_R_32f        DftContext_R_32f;
 typedef struct DftContext_R_64f        DftContext_R_64f;
 typedef struct DftOutOrdContext_C_32fc DftOutOrdContext_C_32fc;
 typedef struct DftOutOrdContext_C_64fc DftOutOrdContext_C_64fc;
+/** @} */
 
-/* Cosine transforms */
+/** @name Cosine transforms
+ *  @{ */
+/** A cosine transform of one length and direction. */
 typedef struct DctFwdContext_16s DctFwdContext_16s;
 typedef struct DctFwdContext_32f DctFwdContext_32f;
 typedef struct DctFwdContext_64f DctFwdContext_64f;
 typedef struct DctInvContext_16s DctInvContext_16s;
 typedef struct DctInvContext_32f DctInvContext_32f;
 typedef struct DctInvContext_64f DctInvContext_64f;
+/** @} */
 
-/* Hilbert transforms */
+/** @name Hilbert transforms
+ *  @{ */
+/** A Hilbert transform of one length. */
 typedef struct HilbertState_16s16sc HilbertState_16s16sc;
 typedef struct HilbertState_16s32fc HilbertState_16s32fc;
 typedef struct HilbertState_32f32fc HilbertState_32f32fc;
+/** @} */
 
-/* Wavelet transforms */
+/** @name Wavelet transforms
+ *  @{ */
+/** One level of a wavelet transform: its filters and delay lines. */
 typedef struct WTFwdState_16s32f WTFwdState_16s32f;
 typedef struct WTFwdState_16u32f WTFwdState_16u32f;
 typedef struct WTFwdState_32f    WTFwdState_32f;
@@ -69,8 +83,11 @@ typedef struct WTInvState_32f16s WTInvState_32f16s;
 typedef struct WTInvState_32f16u WTInvState_32f16u;
 typedef struct WTInvState_32f8s  WTInvState_32f8s;
 typedef struct WTInvState_32f8u  WTInvState_32f8u;
+/** @} */
 
-/* FIR filters */
+/** @name FIR filters
+ *  @{ */
+/** A FIR filter: its taps and delay line. */
 typedef struct FIRState32f_16s   FIRState32f_16s;
 typedef struct FIRState32fc_16sc FIRState32fc_16sc;
 typedef struct FIRState32s_16s   FIRState32s_16s;
@@ -86,25 +103,40 @@ typedef struct FIRState_32f      FIRState_32f;
 typedef struct FIRState_32fc     FIRState_32fc;
 typedef struct FIRState_64f      FIRState_64f;
 typedef struct FIRState_64fc     FIRState_64fc;
+/** @} */
 
-/* FIR streams */
+/** @name FIR streams
+ *  @{ */
+/** A FIR filter that runs over a stream. */
 typedef struct FIRStreamState_16s FIRStreamState_16s;
 typedef struct FIRStreamState_32f FIRStreamState_32f;
+/** @} */
 
-/* FIR filters of single rate without an id word */
+/** @name FIR filters of single rate without an id word
+ *  @{ */
+/** A single-rate FIR filter. */
 typedef struct FIRSRSpec FIRSRSpec;
+/** @} */
 
-/* Sparse filters */
+/** @name Sparse filters
+ *  @{ */
+/** A filter with few taps that are not zero. */
 typedef struct FIRSparseState_32f FIRSparseState_32f;
 typedef struct IIRSparseState_32f IIRSparseState_32f;
+/** @} */
 
-/* Adaptive FIR filters */
+/** @name Adaptive FIR filters
+ *  @{ */
+/** An adaptive FIR filter: its taps and delay line. */
 typedef struct FIRLMSMRState32s_16s   FIRLMSMRState32s_16s;
 typedef struct FIRLMSMRState32sc_16sc FIRLMSMRState32sc_16sc;
 typedef struct FIRLMSState32f_16s     FIRLMSState32f_16s;
 typedef struct FIRLMSState_32f        FIRLMSState_32f;
+/** @} */
 
-/* IIR filters */
+/** @name IIR filters
+ *  @{ */
+/** An IIR filter: its taps and delay line. */
 typedef struct IIRState32f_16s   IIRState32f_16s;
 typedef struct IIRState32fc_16sc IIRState32fc_16sc;
 typedef struct IIRState32s_16s   IIRState32s_16s;
@@ -119,24 +151,34 @@ typedef struct IIRState_32f      IIRState_32f;
 typedef struct IIRState_32fc     IIRState_32fc;
 typedef struct IIRState_64f      IIRState_64f;
 typedef struct IIRState_64fc     IIRState_64fc;
+/** @} */
 
-/* Polyphase resamplers */
+/** @name Polyphase resamplers
+ *  @{ */
+/** A resampler: its filters by phase. */
 typedef struct ResamplePolyphaseFixedState_16s ResamplePolyphaseFixedState_16s;
 typedef struct ResamplePolyphaseFixedState_32f ResamplePolyphaseFixedState_32f;
 typedef struct ResamplePolyphaseState_16s      ResamplePolyphaseState_16s;
 typedef struct ResamplePolyphaseState_32f      ResamplePolyphaseState_32f;
+/** @} */
 
-/* Tone and triangle generators */
+/** @name Tone and triangle generators
+ *  @{ */
+/** A generator: its wave and where it stands. */
 typedef struct ToneStateQ15_16s     ToneStateQ15_16s;
 typedef struct TriangleStateQ15_16s TriangleStateQ15_16s;
+/** @} */
 
-/* Random generators */
+/** @name Random generators
+ *  @{ */
+/** A random generator: its distribution and where it stands. */
 typedef struct RandGaussState_16s   RandGaussState_16s;
 typedef struct RandGaussState_32f   RandGaussState_32f;
 typedef struct RandGaussState_8u    RandGaussState_8u;
 typedef struct RandUniformState_16s RandUniformState_16s;
 typedef struct RandUniformState_32f RandUniformState_32f;
 typedef struct RandUniformState_8u  RandUniformState_8u;
+/** @} */
 /** @} */
 
 #ifdef __cplusplus

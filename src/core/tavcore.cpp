@@ -11,7 +11,7 @@ namespace {
 constexpr size_t   block_alignment = 64;
 constexpr uint32_t feature_ssse3   = 0x10;
 
-uint32_t processor_features() {
+[[maybe_unused]] uint32_t processor_features() {
   unsigned eax, ebx, ecx, edx;
   return __get_cpuid(1, &eax, &ebx, &ecx, &edx) && (ecx & bit_SSSE3) ? feature_ssse3 : 0;
 }
