@@ -19,8 +19,7 @@ const Glyph& glyph_of(char character) {
 }
 
 // Calls dot(x, y) for each dot that is set, counted in dots from the top left of the text.
-template <class Dot>
-void each_dot(const std::string& text, Dot dot) {
+template <class Dot> void each_dot(const std::string& text, Dot dot) {
   for (size_t place = 0; place < text.size(); ++place) {
     const Glyph& glyph = glyph_of(text[place]);
     for (int y = 0; y < glyph_height; ++y)

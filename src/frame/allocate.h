@@ -16,8 +16,7 @@ inline void* allocate_bytes(size_t bytes) {
 }
 
 // An array of len elements, or null: the rule for a length below 1 is the public one.
-template <class T>
-T* allocate(int len) {
+template <class T> T* allocate(int len) {
   return len < 1 ? nullptr : static_cast<T*>(allocate_bytes(size_t(len) * sizeof(T)));
 }
 

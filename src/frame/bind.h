@@ -17,17 +17,12 @@ namespace tav::TAV_VARIANT {
 
 inline constexpr bool is_shared_build = TAV_JOIN(TAV_IS_SHARED_, TAV_VARIANT);
 
-template <auto* Export>
-struct body;
+template <auto* Export> struct body;
 
-template <class R, class... A, R (*Export)(A...)>
-R entry<Export>::call(A... a) {
-  return body<Export>::function(a...);
-}
+template <class R, class... A, R (*Export)(A...)> R entry<Export>::call(A... a) { return body<Export>::function(a...); }
 
 // Calls another export's implementation: the shared one, or the one of this build. A shared body takes v8's.
-template <auto* Export, class... A>
-auto forward(A... a) {
+template <auto* Export, class... A> auto forward(A... a) {
   if constexpr (!is_split<Export>)
     return shared::entry<Export>::call(a...);
   else if constexpr (is_shared_build)
@@ -39,8 +34,7 @@ auto forward(A... a) {
 }  // namespace tav::TAV_VARIANT
 
 #define TAV_BIND(name, ...)                                                                         \
-  template <>                                                                                       \
-  struct body<&::tavs##name> {                                                                      \
+  template <> struct body<&::tavs##name> {                                                          \
     static constexpr auto function = __VA_ARGS__;                                                   \
     static_assert(std::is_same_v<decltype(&::tavs##name), std::remove_const_t<decltype(function)>>, \
                   "tavs" #name ": this function has another signature than the header");            \

@@ -2,6 +2,7 @@
 #pragma once
 #include <stdint.h>
 
+#pragma GCC visibility push(hidden)
 namespace tav {
 
 // Read once at start-up, because asking the processor costs microseconds under a hypervisor. 0: not known, never
@@ -24,3 +25,4 @@ uint32_t last_level_cache_bytes();
 uint32_t cache_bytes_by_descriptors(const char vendor[12], const cpuid_words& leaf2);
 
 }  // namespace tav
+#pragma GCC visibility pop

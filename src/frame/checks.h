@@ -7,28 +7,22 @@
 
 namespace tav::TAV_VARIANT {
 
-template <class... P>
-TAV_INLINE bool any_null(const P*... p) {
-  return (!p || ...);
-}
+template <class... P> TAV_INLINE bool any_null(const P*... p) { return (!p || ...); }
 
 // Element-wise functions: every pointer, then the length.
-template <class... P>
-TAV_INLINE TavStatus check_vector(int len, const P*... p) {
+template <class... P> TAV_INLINE TavStatus check_vector(int len, const P*... p) {
   if (any_null(p...)) return tavStatusNullPointer;
   return len < 1 ? tavStatusBadSize : tavStatusOk;
 }
 
 // The few functions that test the length first.
-template <class... P>
-TAV_INLINE TavStatus check_length_first(int len, const P*... p) {
+template <class... P> TAV_INLINE TavStatus check_length_first(int len, const P*... p) {
   if (len < 1) return tavStatusBadSize;
   return any_null(p...) ? tavStatusNullPointer : tavStatusOk;
 }
 
 // Free functions, accessors: the record, then its id.
-template <record_id... Accepted, class Record>
-TAV_INLINE TavStatus check_record(const Record* record) {
+template <record_id... Accepted, class Record> TAV_INLINE TavStatus check_record(const Record* record) {
   if (!record) return tavStatusNullPointer;
   return has_id<Accepted...>(record) ? tavStatusOk : tavStatusBadContext;
 }

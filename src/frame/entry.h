@@ -3,14 +3,12 @@
 #pragma once
 #include "tavs.h"
 
-#define TAV_DECLARE_ENTRY(build)                    \
-  namespace tav::build {                            \
-  template <auto* Export>                           \
-  struct entry;                                     \
-  template <class R, class... A, R (*Export)(A...)> \
-  struct entry<Export> {                            \
-    static R call(A...);                            \
-  };                                                \
+#define TAV_DECLARE_ENTRY(build)                                                                                 \
+  namespace tav::build {                                                                                         \
+  template <auto* Export> struct entry;                                                                          \
+  template <class R, class... A, R (*Export)(A...)> struct __attribute__((visibility("hidden"))) entry<Export> { \
+    static R call(A...);                                                                                         \
+  };                                                                                                             \
   }
 
 TAV_DECLARE_ENTRY(shared)
@@ -20,12 +18,9 @@ TAV_DECLARE_ENTRY(s8)
 
 namespace tav {
 
-template <auto* Export>
-inline constexpr bool is_split = false;
+template <auto* Export> inline constexpr bool is_split = false;
 #define TAV_SHARED(name)
-#define TAV_SPLIT(name) \
-  template <>           \
-  inline constexpr bool is_split<&::tavs##name> = true;
+#define TAV_SPLIT(name) template <> inline constexpr bool is_split<&::tavs##name> = true;
 #include "frame/exports.def"
 #undef TAV_SHARED
 #undef TAV_SPLIT

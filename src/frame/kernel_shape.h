@@ -27,27 +27,23 @@ struct kernel_shape {
 
 struct self {};  // as a source: the destination itself (in-place forms)
 
-template <class Op, class D>
-inline constexpr int step_of = Op::shape.step == 0 ? lanes<D> : Op::shape.step;
+template <class Op, class D> inline constexpr int step_of = Op::shape.step == 0 ? lanes<D> : Op::shape.step;
 
-template <class D, class S>
-TAV_INLINE auto element(D* dst, S src, size_t i) {
+template <class D, class S> TAV_INLINE auto element(D* dst, S src, size_t i) {
   if constexpr (std::is_same_v<S, self>)
     return peek(dst + i);
   else
     return peek(src + i);
 }
 
-template <access Store, int N, class D, class S>
-TAV_INLINE auto elements(D* dst, S src, size_t i) {
+template <access Store, int N, class D, class S> TAV_INLINE auto elements(D* dst, S src, size_t i) {
   if constexpr (std::is_same_v<S, self>)
     return load < Store == access::unaligned ? access::unaligned : access::aligned, N > (dst + i);
   else
     return load<access::unaligned, N>(src + i);
 }
 
-template <class Op, class D, class... S>
-TAV_INLINE void scalar_loop(Op& op, D* dst, size_t from, size_t to, S... src) {
+template <class Op, class D, class... S> TAV_INLINE void scalar_loop(Op& op, D* dst, size_t from, size_t to, S... src) {
   for (size_t i = from; i < to; ++i) poke(dst + i, D(op.one(element(dst, src, i)...)));
 }
 
@@ -61,8 +57,7 @@ TAV_INLINE void vector_loop(Op& op, D* dst, size_t from, size_t count, S... src)
       store<Store>(dst + from + k * step, op.many(elements<Store, step>(dst, src, from + k * step)...));
 }
 
-template <class Op>
-TAV_INLINE TavStatus status_of(const Op& op) {
+template <class Op> TAV_INLINE TavStatus status_of(const Op& op) {
   if constexpr (requires { op.status(); })
     return op.status();
   else
@@ -84,8 +79,7 @@ TAV_INLINE void rounds_and_tail(Op& op, D* dst, size_t head, size_t rounds, size
   scalar_loop(op, dst, done, len, src...);
 }
 
-template <class Op, class D, class... S>
-TavStatus elementwise(Op op, D* dst, size_t len, S... src) {
+template <class Op, class D, class... S> TavStatus elementwise(Op op, D* dst, size_t len, S... src) {
   static_assert(Op::shape.vector_from >= lanes<D> - 1, "the head must fit into the shortest array that has one");
   if (len < size_t(Op::shape.vector_from)) {
     scalar_loop(op, dst, 0, len, src...);

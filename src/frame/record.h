@@ -16,8 +16,7 @@ inline Tav8u* align_up(void* p) {
 }
 
 // The only validity test of a record: its first word is one of the ids that the function accepts.
-template <record_id... Accepted>
-bool has_id(const void* record) {
+template <record_id... Accepted> bool has_id(const void* record) {
   record_id id;
   __builtin_memcpy(&id, record, sizeof id);
   return ((id == Accepted) || ...);
@@ -28,8 +27,7 @@ enum class origin : uint32_t { caller = 0, allocated = 1 };
 
 // InitAlloc: takes `bytes`, lets `build(block)` lay the record out, and hands the block back if that fails. The out
 // pointer is written on success only.
-template <class Record, class Build>
-TavStatus allocate_record(Record** out, size_t bytes, const Build& build) {
+template <class Record, class Build> TavStatus allocate_record(Record** out, size_t bytes, const Build& build) {
   void* const block = allocate_bytes(bytes);
   if (!block) return tavStatusNoMemory;
   const TavStatus status = build(block);
@@ -41,8 +39,7 @@ TavStatus allocate_record(Record** out, size_t bytes, const Build& build) {
 }
 
 // Free of the transforms: the id is cleared before the release, so that a second Free is caught.
-template <class Record>
-TavStatus free_marked(Record* record, origin from) {
+template <class Record> TavStatus free_marked(Record* record, origin from) {
   const record_id dead = record_id::none;
   __builtin_memcpy(static_cast<void*>(record), &dead, sizeof dead);
   if (from == origin::allocated) release(record);
@@ -50,8 +47,7 @@ TavStatus free_marked(Record* record, origin from) {
 }
 
 // Free of the filters: the id stays; a record in the caller's memory is left as it is.
-template <class Record>
-TavStatus free_unmarked(Record* record, origin from) {
+template <class Record> TavStatus free_unmarked(Record* record, origin from) {
   if (from == origin::allocated) release(record);
   return tavStatusOk;
 }

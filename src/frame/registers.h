@@ -14,16 +14,12 @@
 namespace tav::TAV_VARIANT {
 
 // Elements may lie at any address, so scalar code reads and writes them through these two.
-template <class T>
-TAV_INLINE T peek(const T* p) {
+template <class T> TAV_INLINE T peek(const T* p) {
   T v;
   __builtin_memcpy(&v, static_cast<const void*>(p), sizeof v);
   return v;
 }
-template <class T>
-TAV_INLINE void poke(T* p, T v) {
-  __builtin_memcpy(static_cast<void*>(p), &v, sizeof v);
-}
+template <class T> TAV_INLINE void poke(T* p, T v) { __builtin_memcpy(static_cast<void*>(p), &v, sizeof v); }
 
 enum class access { unaligned, aligned, streaming };
 
@@ -35,18 +31,15 @@ template <> struct        register_of<Tav64f>  { using type = __m128d; };
 template <> struct        register_of<Tav64fc> { using type = __m128d; };
 // clang-format on
 
-template <class T>
-using reg = typename register_of<T>::type;
-template <class T>
-inline constexpr int lanes = 16 / sizeof(T);
+template <class T> using reg                  = typename register_of<T>::type;
+template <class T> inline constexpr int lanes = 16 / sizeof(T);
 
 TAV_INLINE __m128i as_bits(__m128i v) { return v; }
 TAV_INLINE __m128i as_bits(__m128 v) { return _mm_castps_si128(v); }
 TAV_INLINE __m128i as_bits(__m128d v) { return _mm_castpd_si128(v); }
 
 // The other way: the bits as the register that type T is computed in.
-template <class T>
-TAV_INLINE reg<T> from_bits(__m128i v) {
+template <class T> TAV_INLINE reg<T> from_bits(__m128i v) {
   if constexpr (std::is_same_v<reg<T>, __m128>)
     return _mm_castsi128_ps(v);
   else if constexpr (std::is_same_v<reg<T>, __m128d>)
@@ -55,14 +48,12 @@ TAV_INLINE reg<T> from_bits(__m128i v) {
     return v;
 }
 
-template <access A>
-TAV_INLINE __m128i load_bits(const void* p) {
+template <access A> TAV_INLINE __m128i load_bits(const void* p) {
   const auto q = static_cast<const __m128i*>(p);
   return A == access::unaligned ? _mm_loadu_si128(q) : _mm_load_si128(q);
 }
 
-template <access A>
-TAV_INLINE void store_bits(void* p, __m128i v) {
+template <access A> TAV_INLINE void store_bits(void* p, __m128i v) {
   const auto q = static_cast<__m128i*>(p);
   if constexpr (A == access::streaming)
     _mm_stream_si128(q, v);
@@ -73,8 +64,7 @@ TAV_INLINE void store_bits(void* p, __m128i v) {
 }
 
 // 2, 4 or 8 bytes in the low part of a register, the rest zero.
-template <int Bytes>
-TAV_INLINE __m128i load_low(const void* p) {
+template <int Bytes> TAV_INLINE __m128i load_low(const void* p) {
   if constexpr (Bytes == 8) {
     return _mm_loadl_epi64(static_cast<const __m128i*>(p));
   } else if constexpr (Bytes == 4) {
@@ -90,21 +80,15 @@ TAV_INLINE __m128i load_low(const void* p) {
 }
 
 // N elements of T: a register, the low part of one, or several.
-template <class R, int K>
-struct several {
-  R r[K];
-};
+template <class R, int K> struct several { R r[K]; };
 
-template <class T, int N>
-struct group_of {
+template <class T, int N> struct group_of {
   static constexpr int registers = N * int(sizeof(T)) / 16;
   using type                     = std::conditional_t<(registers > 1), several<reg<T>, registers>, reg<T>>;
 };
-template <class T, int N>
-using group = typename group_of<T, N>::type;
+template <class T, int N> using group = typename group_of<T, N>::type;
 
-template <access A, int N, class T>
-TAV_INLINE group<T, N> load(const T* p) {
+template <access A, int N, class T> TAV_INLINE group<T, N> load(const T* p) {
   constexpr int bytes = N * int(sizeof(T));
   if constexpr (bytes < 16) {
     return from_bits<T>(load_low<bytes>(p));
@@ -117,13 +101,9 @@ TAV_INLINE group<T, N> load(const T* p) {
   }
 }
 
-template <access A, class T, class R>
-TAV_INLINE void store(T* p, R v) {
-  store_bits<A>(p, as_bits(v));
-}
+template <access A, class T, class R> TAV_INLINE void store(T* p, R v) { store_bits<A>(p, as_bits(v)); }
 
-template <access A, class T, class R, int K>
-TAV_INLINE void store(T* p, several<R, K> v) {
+template <access A, class T, class R, int K> TAV_INLINE void store(T* p, several<R, K> v) {
   for (int k = 0; k < K; ++k) store_bits<A>(p + k * lanes<T>, as_bits(v.r[k]));
 }
 

@@ -9,8 +9,7 @@
 namespace tav {
 
 // The control word of the SSE unit (MXCSR) with the bits of `Field` set to `Value` while the scope lasts.
-template <uint32_t Field, uint32_t Value>
-class sse_mode {
+template <uint32_t Field, uint32_t Value> class sse_mode {
  public:
   sse_mode() : callers_(_mm_getcsr()), changed_((callers_ & Field) != Value) {
     if (changed_) set((callers_ & ~Field) | Value);

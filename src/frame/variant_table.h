@@ -14,8 +14,10 @@ struct variant_table {
 
 inline constexpr int exports = sizeof(variant_table) / (2 * sizeof(void (*)()));
 
+#pragma GCC visibility push(hidden)
 // Both are read by the stubs. The index is 0 until the library is attached to the process, and final from then on.
 extern "C" const variant_table tav_variant_table;
 extern "C" uint32_t            tav_variant_index;
+#pragma GCC visibility         pop
 
 }  // namespace tav

@@ -71,7 +71,7 @@ void copy_bits(const Tav8u* src, unsigned src_bit, Tav8u* dst, unsigned dst_bit,
   }
   const size_t bytes = len / 8;
   if (src_bit == 0)
-    shared::copy_bytes(dst, src, bytes);
+    shared::copy_bytes(src, dst, bytes);
   else
     copy_joined_bytes<Order, Unroll>(src, src_bit, dst, bytes);
   if (len % 8 != 0) copy_within_byte<Order>(src + bytes, src_bit, dst + bytes, 0, unsigned(len % 8));

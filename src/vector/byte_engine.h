@@ -1,34 +1,36 @@
-// The byte engines under Set, Zero, Copy and Move, which most of the library calls inside too. Counts are in bytes.
-// None checks anything; a count of 0 does nothing.
+// The byte engines under Set, Zero, Copy and Move, which most of the library calls inside too. Sizes are in bytes.
+//
+// None checks anything; a size of 0 does nothing. Each returns tavStatusOk, so that a function which has nothing more
+// to do may end in a jump to it.
 #pragma once
 #include <emmintrin.h>
-
 #include <stddef.h>
 
 #include "frame/tuning.h"
+#include "tavs.h"
 
+#pragma GCC visibility push(hidden)  // called directly, not through the table of a shared library
 namespace tav::shared {
 
 // Source and destination apart, or the same. Past half of the last-level cache the stores bypass it.
-void copy_bytes(void* dst, const void* src, size_t n);
+TavStatus copy_bytes(const void* src, void* dst, size_t n);
 
 // The same under another plan for large blocks.
-void copy_pairs(void* dst, const void* src, size_t n);
+TavStatus copy_pairs(const void* src, void* dst, size_t n);
 
 // Any overlap. Never bypasses the cache.
-void move_bytes(void* dst, const void* src, size_t n);
+TavStatus move_bytes(const void* src, void* dst, size_t n);
 
-// Repeats a 16-byte pattern, whose period `width` divides n and 16, from dst on.
-void fill_bytes(void* dst, __m128i pattern, int width, size_t n, bool past_cache);
+// Elements of Width bytes (1, 2, 4, 8 or 16), all alike: the pattern is a register full of them. Past the size of the
+// last-level cache the stores bypass it.
+template <int Width>
+__attribute__((visibility("hidden"))) TavStatus fill_elements(void* dst, size_t elements, __m128i pattern);
 
-// Zero bytes; past the size of the last-level cache the stores bypass it.
-void zero_bytes(void* dst, size_t n);
+inline TavStatus zero_bytes(void* dst, size_t n) { return fill_elements<1>(dst, n, _mm_setzero_si128()); }
 
-// Whether a copy under a plan bypasses the cache.
+// When a copy under a plan, or a fill, bypasses the cache.
 bool copy_streams(const copy_plan& plan, size_t n);
-
-// Whether a fill of single bytes, or one of elements of `width` bytes, bypasses the cache.
-bool byte_fill_streams(size_t n);
-bool element_fill_streams(size_t elements, size_t width);
+bool fill_streams(size_t elements, size_t width);
 
 }  // namespace tav::shared
+#pragma GCC visibility pop

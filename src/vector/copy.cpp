@@ -4,10 +4,8 @@
 
 namespace tav::TAV_VARIANT {
 
-template <class T>
-constexpr auto copied = &transferred<T, shared::copy_bytes>;
-template <class T>
-constexpr auto moved = &transferred<T, shared::move_bytes>;
+template <class T> constexpr auto copied = &transferred<T, shared::copy_bytes>;
+template <class T> constexpr auto moved  = &transferred<T, shared::move_bytes>;
 
 TAV_BIND(Copy_8u, copied<Tav8u>)
 TAV_BIND(Copy_16s, copied<Tav16s>)

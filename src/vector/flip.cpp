@@ -7,8 +7,7 @@
 
 namespace tav::TAV_VARIANT {
 
-template <int Bytes>
-TAV_INLINE __m128i reversed(__m128i v) {
+template <int Bytes> TAV_INLINE __m128i reversed(__m128i v) {
   if constexpr (Bytes == 1)
     return _mm_shuffle_epi8(v, _mm_setr_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0));
   else if constexpr (Bytes == 2)
@@ -21,13 +20,11 @@ TAV_INLINE __m128i reversed(__m128i v) {
     return v;
 }
 
-template <class T>
-TAV_INLINE __m128i load_reversed(const T* p) {
+template <class T> TAV_INLINE __m128i load_reversed(const T* p) {
   return reversed<sizeof(T)>(load_bits<access::unaligned>(p));
 }
 
-template <class T>
-void flip(const T* src, T* dst, size_t len) {
+template <class T> void flip(const T* src, T* dst, size_t len) {
   constexpr size_t vector = 16 / sizeof(T), steps = 4;
   if (len < vector) {
     for (size_t i = 0; i < len; ++i) poke(dst + i, peek(src + len - 1 - i));
@@ -49,8 +46,7 @@ void flip(const T* src, T* dst, size_t len) {
   step.template operator()<access::unaligned>(len - vector);
 }
 
-template <class T>
-void flip_in_place(T* p, size_t len) {
+template <class T> void flip_in_place(T* p, size_t len) {
   constexpr size_t vector = 16 / sizeof(T);
   T*               end    = p + len;
   while (size_t(end - p) >= vector) {  // the last pair may overlap: both are read before either is written
@@ -69,15 +65,13 @@ void flip_in_place(T* p, size_t len) {
   }
 }
 
-template <class T>
-TavStatus flipped_in_place(T* srcDst, int len) {
+template <class T> TavStatus flipped_in_place(T* srcDst, int len) {
   if (const TavStatus bad = check_vector(len, srcDst)) return bad;
   flip_in_place(srcDst, size_t(len));
   return tavStatusOk;
 }
 
-template <class T>
-TavStatus flipped(const T* src, T* dst, int len) {
+template <class T> TavStatus flipped(const T* src, T* dst, int len) {
   if (const TavStatus bad = check_vector(len, src, dst)) return bad;
   if (src == dst)
     flip_in_place(dst, size_t(len));

@@ -38,8 +38,7 @@ class arena {
   uint8_t *array_ = nullptr, *array_end_ = nullptr;
 };
 
-template <class T>
-class array {
+template <class T> class array {
  public:
   array(arena& home, size_t n, placement where) : home_(home), data_(home.place(n * sizeof(T), where)), size_(n) {}
 

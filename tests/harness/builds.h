@@ -23,8 +23,7 @@ struct build {
 const std::vector<build>& builds_of(bool split);
 void                      select(const build& b);
 
-template <auto* Export, class Check>
-void each_build(const Check& check) {
+template <auto* Export, class Check> void each_build(const Check& check) {
   for (const build& b : builds_of(tav::is_split<Export>)) {
     SCOPED_TRACE(b.name);
     select(b);

@@ -32,8 +32,7 @@ extern "C" uint32_t tav_test_call(const void* function, const uint32_t* words, u
 
 class argument_words {
  public:
-  template <class T>
-  void push(const T& value) {
+  template <class T> void push(const T& value) {
     static_assert(std::is_trivially_copyable_v<T>);
     uint32_t w[(sizeof(T) + 3) / 4] = {};
     if constexpr (std::is_integral_v<T> && sizeof(T) < 4)
@@ -42,8 +41,7 @@ class argument_words {
       memcpy(w, &value, sizeof value);
     for (uint32_t x : w) words_[count_++] = x;
   }
-  template <class R>
-  R call(const void* function) const {
+  template <class R> R call(const void* function) const {
     static thread_local uint32_t shift = 0;
     shift                              = (shift + 4) % 16;
     const uint32_t result              = tav_test_call(function, words_, count_, shift);
@@ -58,21 +56,16 @@ class argument_words {
   uint32_t count_ = 0;
 };
 
-template <class R, class... P>
-R plain_call(R (*function)(P...), P... args) {
+template <class R, class... P> R plain_call(R (*function)(P...), P... args) {
   argument_words words;
   (words.push(args), ...);
   return words.call<R>(reinterpret_cast<const void*>(function));
 }
 #else
-template <class R, class... P>
-R plain_call(R (*function)(P...), P... args) {
-  return function(args...);
-}
+template <class R, class... P> R plain_call(R (*function)(P...), P... args) { return function(args...); }
 #endif
 
-template <class R, class... P>
-R checked_call(R (*function)(P...), std::type_identity_t<P>... args) {
+template <class R, class... P> R checked_call(R (*function)(P...), std::type_identity_t<P>... args) {
   const float_state before = float_state::now();
   if constexpr (std::is_void_v<R>) {
     plain_call<R, P...>(function, args...);
@@ -84,9 +77,6 @@ R checked_call(R (*function)(P...), std::type_identity_t<P>... args) {
   }
 }
 
-template <auto* Export, class... A>
-auto call(A... args) {
-  return checked_call(Export, args...);
-}
+template <auto* Export, class... A> auto call(A... args) { return checked_call(Export, args...); }
 
 }  // namespace test

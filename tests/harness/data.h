@@ -20,8 +20,7 @@ class source_of_data {
   uint32_t bits() { return uint32_t(engine_()); }
   int      below(int n) { return int(bits() % uint32_t(n)); }
 
-  template <class T>
-  T value() {
+  template <class T> T value() {
     if constexpr (requires(T v) { v.re; })
       return {value<decltype(T::re)>(), value<decltype(T::im)>()};
     else if constexpr (std::is_floating_point_v<T>)
@@ -30,24 +29,21 @@ class source_of_data {
       return integer<T>();
   }
 
-  template <class T>
-  std::vector<T> values(size_t n) {
+  template <class T> std::vector<T> values(size_t n) {
     std::vector<T> v(n);
     for (T& x : v) x = value<T>();
     return v;
   }
 
  private:
-  template <class T>
-  T integer() {  // one in four is an extreme or next to one
+  template <class T> T integer() {  // one in four is an extreme or next to one
     using limits = std::numeric_limits<T>;
     if (below(4) != 0) return T(uint64_t(bits()) << 32 | bits());
     const T edges[] = {limits::min(), T(limits::min() + 1), T(-1), 0, 1, T(limits::max() - 1), limits::max()};
     return edges[below(int(std::size(edges)))];
   }
 
-  template <class T>
-  T real() {  // half of ordinary size, a quarter of any exponent, a quarter special
+  template <class T> T real() {  // half of ordinary size, a quarter of any exponent, a quarter special
     using limits    = std::numeric_limits<T>;
     const int  kind = below(4);
     const auto sign = below(2) ? T(1) : T(-1);
@@ -68,8 +64,7 @@ class source_of_data {
 };
 
 // The same value bit for bit; any NaN equals any other.
-template <class T>
-bool same(const T& a, const T& b) {
+template <class T> bool same(const T& a, const T& b) {
   if constexpr (requires { a.re; })
     return same(a.re, b.re) && same(a.im, b.im);
   else if constexpr (std::is_floating_point_v<T>)
@@ -79,8 +74,7 @@ bool same(const T& a, const T& b) {
 }
 
 // Index of the first difference, or -1.
-template <class T>
-long first_difference(const std::vector<T>& a, const std::vector<T>& b) {
+template <class T> long first_difference(const std::vector<T>& a, const std::vector<T>& b) {
   for (size_t i = 0; i < a.size(); ++i)
     if (!same(a[i], b[i])) return long(i);
   return -1;

@@ -31,8 +31,7 @@ struct fault_registration {
       "tavs" #name, [] { __VA_ARGS__(&::tavs##name, [](auto check) { test::each_build<&::tavs##name>(check); }); });
 
 // The arguments of a call: pointers show to blocks of random bytes, which must survive; scalars are `scalar`.
-template <class... P>
-class arguments {
+template <class... P> class arguments {
  public:
   static constexpr size_t count = sizeof...(P);
 
@@ -42,27 +41,18 @@ class arguments {
     (std::index_sequence_for<P...>{});
   }
 
-  template <size_t I>
-  static constexpr bool is_pointer = std::is_pointer_v<std::tuple_element_t<I, std::tuple<P...>>>;
+  template <size_t I> static constexpr bool is_pointer = std::is_pointer_v<std::tuple_element_t<I, std::tuple<P...>>>;
 
-  template <size_t I>
-  void spoil() {
-    std::get<I>(values_) = {};
-  }
-  template <size_t I, class V>
-  void set(V v) {
-    std::get<I>(values_) = std::tuple_element_t<I, std::tuple<P...>>(v);
-  }
+  template <size_t I> void          spoil() { std::get<I>(values_) = {}; }
+  template <size_t I, class V> void set(V v) { std::get<I>(values_) = std::tuple_element_t<I, std::tuple<P...>>(v); }
 
-  template <class R>
-  R call(R (*function)(P...)) const {
+  template <class R> R call(R (*function)(P...)) const {
     return std::apply([&](P... p) { return checked_call(function, p...); }, values_);
   }
   bool untouched() const { return blocks_ == kept_; }
 
  private:
-  template <size_t I>
-  void reset(int scalar) {
+  template <size_t I> void reset(int scalar) {
     using T = std::tuple_element_t<I, std::tuple<P...>>;
     if constexpr (std::is_pointer_v<T>)
       std::get<I>(values_) = reinterpret_cast<T>(blocks_[I].data());
@@ -84,15 +74,13 @@ class arguments {
 };
 
 // A change of the arguments that is a fault, and what it must give.
-template <class... P>
-struct fault {
+template <class... P> struct fault {
   std::string what;
   TavStatus   status;
   void (*apply)(arguments<P...>&);
 };
 
-template <class... P>
-void expect_faults(TavStatus (*function)(P...), const std::vector<fault<P...>>& faults) {
+template <class... P> void expect_faults(TavStatus (*function)(P...), const std::vector<fault<P...>>& faults) {
   source_of_data data(7);
   const auto     expect = [&](const std::string& what, TavStatus status, auto... applied) {
     arguments<P...> a(data, 2);
@@ -107,8 +95,7 @@ void expect_faults(TavStatus (*function)(P...), const std::vector<fault<P...>>& 
   }
 }
 
-template <class... P>
-void add_null_pointers(std::vector<fault<P...>>& faults) {
+template <class... P> void add_null_pointers(std::vector<fault<P...>>& faults) {
   [&]<size_t... I>(std::index_sequence<I...>) {
     const auto add = [&]<size_t K>() {
       if constexpr (arguments<P...>::template is_pointer<K>)
@@ -120,16 +107,14 @@ void add_null_pointers(std::vector<fault<P...>>& faults) {
   (std::index_sequence_for<P...>{});
 }
 
-template <size_t I, class... P>
-void add_below_one(std::vector<fault<P...>>& faults) {
+template <size_t I, class... P> void add_below_one(std::vector<fault<P...>>& faults) {
   faults.push_back({"length 0", tavStatusBadSize, [](arguments<P...>& a) { a.template set<I>(0); }});
   faults.push_back({"length -1", tavStatusBadSize, [](arguments<P...>& a) { a.template set<I>(-1); }});
   faults.push_back({"lowest length", tavStatusBadSize,
                     [](arguments<P...>& a) { a.template set<I>(std::numeric_limits<int>::min()); }});
 }
 
-template <size_t I, class... P>
-void add_negative(std::vector<fault<P...>>& faults) {
+template <size_t I, class... P> void add_negative(std::vector<fault<P...>>& faults) {
   faults.push_back({"argument " + std::to_string(I) + " is -1", tavStatusBadSize,
                     [](arguments<P...>& a) { a.template set<I>(-1); }});
 }

@@ -8,13 +8,11 @@
 
 namespace oracle {
 
-template <class T>
-void set(std::vector<T>& dst, T val) {
+template <class T> void set(std::vector<T>& dst, T val) {
   for (T& v : dst) v = val;
 }
 
-template <class T>
-void flip(std::vector<T>& dst, const std::vector<T>& src) {
+template <class T> void flip(std::vector<T>& dst, const std::vector<T>& src) {
   for (size_t i = 0; i < src.size(); ++i) dst[i] = src[src.size() - 1 - i];
 }
 
@@ -25,8 +23,7 @@ inline std::vector<Tav8u> swapped_bytes(const std::vector<Tav8u>& src, size_t wi
   return dst;
 }
 
-template <class T>
-T swapped_bytes(T value) {
+template <class T> T swapped_bytes(T value) {
   std::vector<Tav8u> bytes(sizeof(T));
   memcpy(bytes.data(), &value, sizeof value);
   bytes = swapped_bytes(bytes, sizeof(T));

@@ -8,8 +8,7 @@ using namespace test;
 namespace {
 
 // Streams that hold the range and no byte more, flush against a page: neither may be left by a bit.
-template <auto* Export>
-void check_copy_bits(bool from_top) {
+template <auto* Export> void check_copy_bits(bool from_top) {
   arena from(1024), to(1024);
   each_build<Export>([&] {
     source_of_data data(21);
@@ -36,8 +35,7 @@ void check_copy_bits(bool from_top) {
   });
 }
 
-template <class... P>
-void bits_then_sizes(TavStatus (*function)(P...), auto each) {
+template <class... P> void bits_then_sizes(TavStatus (*function)(P...), auto each) {
   std::vector<fault<P...>> faults;
   add_null_pointers(faults);
   add_below_one<4>(faults);
@@ -46,8 +44,7 @@ void bits_then_sizes(TavStatus (*function)(P...), auto each) {
   each([&] { expect_faults(function, faults); });
 }
 
-template <class... P>
-void four_pointers_then_sizes(TavStatus (*function)(P...), auto each) {
+template <class... P> void four_pointers_then_sizes(TavStatus (*function)(P...), auto each) {
   std::vector<fault<P...>> faults;
   add_null_pointers(faults);
   add_below_one<2>(faults);

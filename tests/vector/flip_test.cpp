@@ -9,8 +9,7 @@ namespace {
 
 const std::set<int> lengths = lengths_around({192, 255, 256, 257, 1000});
 
-template <auto* Export, auto* InPlace, class T>
-void check_flip() {
+template <auto* Export, auto* InPlace, class T> void check_flip() {
   check_layouts<Export, T, T>(
       lengths, [](T* dst, int len, const T* src) { return call<Export>(src, dst, len); },
       [](std::vector<T>& dst, const std::vector<T>& src) { return oracle::flip(dst, src), tavStatusOk; });
@@ -21,8 +20,7 @@ void check_flip() {
       lengths, [](T* dst, int len) { return call<Export>(dst, dst, len); }, onto_itself);
 }
 
-template <auto* Export, auto* InPlace, class T>
-void check_swap() {
+template <auto* Export, auto* InPlace, class T> void check_swap() {
   const auto swapped = [](std::vector<T>& dst, const std::vector<T>& src) {
     for (size_t i = 0; i < src.size(); ++i) dst[i] = oracle::swapped_bytes(src[i]);
     return tavStatusOk;
@@ -43,7 +41,8 @@ void check_swap() {
   TAV_FAULTS(Flip_##type, pointers_then_length)                                                 \
   TAV_FAULTS(Flip_##type##_I, pointers_then_length)
 CASE(8u)
-CASE(16u) CASE(32f) CASE(64f) CASE(32fc) CASE(64fc)
+CASE(16u)
+CASE(32f) CASE(64f) CASE(32fc) CASE(64fc)
 #undef CASE
 
 #define CASE(type) \

@@ -7,36 +7,30 @@ using namespace test;
 
 namespace {
 
-template <class>
-struct parameters;
-template <class R, class... P>
-struct parameters<R (*)(P...)> {
-  template <size_t I>
-  using at = std::tuple_element_t<I, std::tuple<P...>>;
+template <class> struct parameters;
+template <class R, class... P> struct parameters<R (*)(P...)> {
+  template <size_t I> using at = std::tuple_element_t<I, std::tuple<P...>>;
 };
 template <auto* Export>
 using first_pointee = std::remove_pointer_t<typename parameters<decltype(Export)>::template at<0>>;
 
 const std::set<int> lengths = lengths_around({128, 129, 192, 255, 256, 257, 1000, 4096, 0x20000 / 16});
 
-template <auto* Export>
-void check_copy() {
+template <auto* Export> void check_copy() {
   using T = std::remove_const_t<first_pointee<Export>>;
   check_layouts<Export, T, T>(
       lengths, [](T* dst, int len, const T* src) { return call<Export>(src, dst, len); },
       [](std::vector<T>& dst, const std::vector<T>& src) { return dst = src, tavStatusOk; });
 }
 
-template <auto* Export>
-void check_zero() {
+template <auto* Export> void check_zero() {
   using T = first_pointee<Export>;
   check_layouts<Export, T>(
       lengths, [](T* dst, int len) { return call<Export>(dst, len); },
       [](std::vector<T>& dst) { return oracle::set(dst, T{}), tavStatusOk; });
 }
 
-template <auto* Export>
-void check_set() {
+template <auto* Export> void check_set() {
   using T = typename parameters<decltype(Export)>::template at<0>;
   source_of_data data(11);
   T              val;
@@ -49,8 +43,7 @@ void check_set() {
 }
 
 // Every distance between source and destination at which they overlap, and some beyond, either way.
-template <auto* Export>
-void check_overlapping_move() {
+template <auto* Export> void check_overlapping_move() {
   using T            = std::remove_const_t<first_pointee<Export>>;
   constexpr int most = 150, beyond = 2, start = most + beyond, room = 3 * most + 2 * beyond;
   arena         home(room * sizeof(T));

@@ -13,8 +13,7 @@ namespace {
 
 constexpr int threshold = 15, streamed_rounds = 6;
 
-template <int RoundBytes>
-struct xor_8u {
+template <int RoundBytes> struct xor_8u {
   static constexpr kernel_shape shape{
       .vector_from = threshold, .round_bytes = RoundBytes, .stream_above = streamed_rounds};
   static Tav8u   one(Tav8u a) { return Tav8u(a ^ 0x5A); }
@@ -103,28 +102,24 @@ struct warn_of_zero_16u {
 };
 
 // The shape runs without an export: these two stand in for the switch of builds.
-template <class D, class... S, class Run, class Expected>
-void check_shape(const Run& run, const Expected& expected) {
+template <class D, class... S, class Run, class Expected> void check_shape(const Run& run, const Expected& expected) {
   const auto lengths = lengths_around({threshold, 200, 1000});
   check_layouts<&::tavsAdd_32f, D, S...>(
       lengths, [&](D* dst, int len, const S*... src) { return run(dst, size_t(len), src...); }, expected);
 }
 
-template <class Op>
-auto run_of() {
+template <class Op> auto run_of() {
   return [](auto* dst, size_t len, const auto*... src) { return elementwise(Op{}, dst, len, src...); };
 }
 
-template <class Op>
-auto definition_of() {
+template <class Op> auto definition_of() {
   return [](auto& dst, const auto&... src) {
     for (size_t i = 0; i < dst.size(); ++i) dst[i] = Op{}.one(src[i]...);
     return tavStatusOk;
   };
 }
 
-template <class Op, class D, class... S>
-void check_operation() {
+template <class Op, class D, class... S> void check_operation() {
   check_shape<D, S...>(run_of<Op>(), definition_of<Op>());
 }
 

@@ -17,24 +17,24 @@ struct cache_of {
 };
 
 TEST(Streaming, LimitsOfFills) {
-  using tav::shared::byte_fill_streams, tav::shared::element_fill_streams;
+  using tav::shared::fill_streams;
   const cache_of small(0x200000);
-  EXPECT_FALSE(byte_fill_streams(0x1FFFFF));
-  EXPECT_TRUE(byte_fill_streams(0x200000)) << "a byte fill as large as the cache";
+  EXPECT_FALSE(fill_streams(0x1FFFFF, 1));
+  EXPECT_TRUE(fill_streams(0x200000, 1)) << "a byte fill as large as the cache";
   for (size_t width : {2u, 4u, 8u, 16u}) {
-    EXPECT_FALSE(element_fill_streams(0x200000 / width, width)) << width;
-    EXPECT_TRUE(element_fill_streams(0x200000 / width + 1, width)) << "an element more than the cache, " << width;
+    EXPECT_FALSE(fill_streams(0x200000 / width, width)) << width;
+    EXPECT_TRUE(fill_streams(0x200000 / width + 1, width)) << "an element more than the cache, " << width;
   }
   const cache_of tiny(1000);
-  EXPECT_FALSE(byte_fill_streams(0x80000));
-  EXPECT_TRUE(byte_fill_streams(0x80001));
+  EXPECT_FALSE(fill_streams(0x80000, 1));
+  EXPECT_TRUE(fill_streams(0x80001, 1));
   for (size_t width : {2u, 4u, 8u, 16u}) {
-    EXPECT_FALSE(element_fill_streams(0x100000 / width, width)) << width;
-    EXPECT_TRUE(element_fill_streams(0x100000 / width + 1, width)) << width;
+    EXPECT_FALSE(fill_streams(0x100000 / width, width)) << width;
+    EXPECT_TRUE(fill_streams(0x100000 / width + 1, width)) << width;
   }
   const cache_of unknown(0);
-  EXPECT_FALSE(byte_fill_streams(size_t(1) << 30));
-  EXPECT_FALSE(element_fill_streams(size_t(1) << 30, 2));
+  EXPECT_FALSE(fill_streams(size_t(1) << 30, 1));
+  EXPECT_FALSE(fill_streams(size_t(1) << 30, 2));
 }
 
 TEST(Streaming, LimitsOfCopies) {
