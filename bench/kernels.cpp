@@ -1,0 +1,83 @@
+// Other kernels for the same work, in turns with the library's: what is left to gain. docs/performance/limits.md reads
+// the outcome.
+#include <emmintrin.h>
+
+#include "harness.h"
+
+namespace bench {
+namespace {
+
+enum class store { cached, streamed };
+
+// A round of Vectors registers. First: all loads of a round stand before its stores. Ahead: bytes by which the sources
+// are asked for in advance, 0 for not at all.
+template <int Vectors, store Store, bool First, int Ahead> void add_kernel(const arrays<Tav32f>& x, int n) {
+  const float *const a = x.a, *const b = x.b;  // in registers: a store of a vector might change x itself
+  float* const out = x.out;
+  for (int i = 0; i < n; i += 4 * Vectors) {
+    if constexpr (Ahead != 0)
+      for (const float* source : {a, b}) _mm_prefetch(reinterpret_cast<const char*>(source + i) + Ahead, _MM_HINT_T0);
+    __m128     sums[Vectors];
+    const auto sum = [&](int k) { return _mm_add_ps(_mm_load_ps(a + i + 4 * k), _mm_load_ps(b + i + 4 * k)); };
+    const auto put = [&](int k, __m128 v) {
+      Store == store::streamed ? _mm_stream_ps(out + i + 4 * k, v) : _mm_store_ps(out + i + 4 * k, v);
+    };
+#pragma GCC unroll 8
+    for (int k = 0; k < Vectors; ++k)
+      if constexpr (First)
+        sums[k] = sum(k);
+      else
+        put(k, sum(k));
+#pragma GCC unroll 8
+    for (int k = 0; k < Vectors; ++k)
+      if constexpr (First) put(k, sums[k]);
+  }
+  if (Store == store::streamed) _mm_sfence();
+}
+
+// As many streams of the destination at once.
+template <int Streams, store Store> void fill_kernel(const arrays<Tav8u>& x, int n) {
+  const __m128i pattern = _mm_set1_epi8(7);
+  Tav8u* const  out     = x.out;
+  const int     part    = n / Streams / 64 * 64;
+  for (int i = 0; i < part; i += 64)
+    for (int s = 0; s < Streams; ++s)
+#pragma GCC unroll 4
+      for (int k = 0; k < 64; k += 16) {
+        const auto p = reinterpret_cast<__m128i*>(out + s * part + i + k);
+        Store == store::streamed ? _mm_stream_si128(p, pattern) : _mm_store_si128(p, pattern);
+      }
+  for (int i = part * Streams; i < n; ++i) out[i] = 7;
+  if (Store == store::streamed) _mm_sfence();
+}
+
+// The other kernels have no heads and tails: what is left of a round is the library's.
+template <call<Tav32f> Kernel> void whole_rounds(const arrays<Tav32f>& x, int n) {
+  const int whole = n / 32 * 32, rest = n - whole;
+  Kernel(x, whole);
+  if (rest != 0) tavsAdd_32f(x.a + whole, x.b + whole, x.out + whole, rest);
+}
+
+}  // namespace
+
+BENCH_FAMILY(kernels) {
+  constexpr auto cached = store::cached, streamed = store::streamed;
+  contest<Tav32f>({.name = "Add_32f, other kernels", .bytes = 12},
+                  {{ours, [](auto& x, int n) { tavsAdd_32f(x.a, x.b, x.out, n); }},
+                   {"1 vector", whole_rounds<add_kernel<1, cached, false, 0>>},
+                   {"2 vectors", whole_rounds<add_kernel<2, cached, false, 0>>},
+                   {"4 vectors", whole_rounds<add_kernel<4, cached, false, 0>>},
+                   {"4, loads first", whole_rounds<add_kernel<4, cached, true, 0>>},
+                   {"8, loads first", whole_rounds<add_kernel<8, cached, true, 0>>},
+                   {"streamed", whole_rounds<add_kernel<4, streamed, true, 0>>},
+                   {"streamed, asked 256 ahead", whole_rounds<add_kernel<4, streamed, true, 256>>},
+                   {"streamed, asked 2048 ahead", whole_rounds<add_kernel<4, streamed, true, 2048>>}});
+  contest<Tav8u>({.name = "Set_8u, other kernels", .bytes = 1},
+                 {{ours, [](auto& x, int n) { tavsSet_8u(7, x.out, n); }},
+                  {"cached", fill_kernel<1, cached>},
+                  {"cached, 4 streams", fill_kernel<4, cached>},
+                  {"streamed", fill_kernel<1, streamed>},
+                  {"streamed, 4 streams", fill_kernel<4, streamed>}});
+}
+
+}  // namespace bench
