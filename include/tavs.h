@@ -17,7 +17,9 @@
 #define TAVS_H
 
 #include "tavs/arithmetic.h"
+#include "tavs/scaled.h"
 #include "tavs/contexts.h"
+#include "tavs/logic.h"
 #include "tavs/memory.h"
 #include "tavs/move.h"
 #include "tavs/status.h"

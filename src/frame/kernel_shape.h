@@ -19,10 +19,11 @@ namespace tav::TAV_VARIANT {
 inline constexpr size_t never = ~size_t(0);
 
 struct kernel_shape {
-  int    vector_from;           // below this length the scalar loop does all the work; at least a register less one
-  int    round_bytes;           // bytes of dst in one round of the main loop
-  int    step         = 0;      // elements in one call of many(); 0: as many as one register of dst holds
-  size_t stream_above = never;  // rounds above which stores bypass the cache
+  int    vector_from;  // below this length the scalar loop does all the work; at least a register less one
+  int    round_bytes;  // bytes of dst in one round of the main loop
+  int    step = 0;     // elements in one call of many(); 0: as many as one register of dst holds
+  size_t stream_above =
+      never;  // rounds above which stores bypass the cache; never in place, where loads have filled it
 };
 
 struct self {};  // as a source: the destination itself (in-place forms)
@@ -50,10 +51,9 @@ template <class Op, class D, class... S> TAV_INLINE void scalar_loop(Op& op, D* 
 // Next to stores that bypass the cache the processor's own prefetch lags behind: asking for the sources makes sums of
 // two arrays 2 to 7 % faster from memory. Farther ahead gains more on huge pages but loses on small ones. A prefetch
 // may point behind an array; it never faults.
-template <class S> TAV_INLINE void ask_ahead(S src, size_t i) {
+template <class S> TAV_INLINE void ask_ahead(const S* src, size_t i) {
   constexpr size_t bytes_ahead = 256;
-  if constexpr (!std::is_same_v<S, self>)
-    _mm_prefetch(reinterpret_cast<const char*>(src + i) + bytes_ahead, _MM_HINT_T0);
+  _mm_prefetch(reinterpret_cast<const char*>(src + i) + bytes_ahead, _MM_HINT_T0);
 }
 
 // Elements [from, from + count) in steps of `Steps` vectors at a time; count is a multiple of that.
@@ -90,6 +90,9 @@ TAV_INLINE void rounds_and_tail(Op& op, D* dst, size_t head, size_t rounds, size
   scalar_loop(op, dst, done, len, src...);
 }
 
+template <class Op, class... S>
+inline constexpr bool may_stream = Op::shape.stream_above != never && !(std::is_same_v<S, self> || ...);
+
 template <class Op, class D, class... S> TavStatus elementwise(Op op, D* dst, size_t len, S... src) {
   static_assert(Op::shape.vector_from >= lanes<D> - 1, "the head must fit into the shortest array that has one");
   if (len < size_t(Op::shape.vector_from)) {
@@ -106,7 +109,7 @@ template <class Op, class D, class... S> TavStatus elementwise(Op op, D* dst, si
     rounds_and_tail<access::unaligned>(op, dst, head, rounds, len, src...);
     return status_of(op);
   }
-  if constexpr (Op::shape.stream_above != never) {
+  if constexpr (may_stream<Op, S...>) {
     if (rounds > Op::shape.stream_above) {
       rounds_and_tail<access::streaming>(op, dst, head, rounds, len, src...);
       return status_of(op);

@@ -107,4 +107,17 @@ template <access A, class T, class R, int K> TAV_INLINE void store(T* p, several
   for (int k = 0; k < K; ++k) store_bits<A>(p + k * lanes<T>, as_bits(v.r[k]));
 }
 
+// The bits of an element, repeated through a register. Built from words in registers: an argument that the caller has
+// just stored in pieces would be slow to load as a whole.
+template <class T> TAV_INLINE __m128i repeated(T val) {
+  constexpr size_t words = sizeof(T) <= 4 ? 1 : sizeof(T) / 4;
+  if constexpr (sizeof(T) == 1) return _mm_set1_epi8(char(val));
+  if constexpr (sizeof(T) == 2) return _mm_set1_epi16(short(val));
+  int w[words];
+  __builtin_memcpy(w, &val, sizeof val);
+  if constexpr (words == 1) return _mm_set1_epi32(w[0]);
+  if constexpr (words == 2) return _mm_setr_epi32(w[0], w[1], w[0], w[1]);
+  if constexpr (words == 4) return _mm_setr_epi32(w[0], w[1], w[2], w[3]);
+}
+
 }  // namespace tav::TAV_VARIANT

@@ -15,7 +15,12 @@ namespace tav::shared {
 // Source and destination apart, or the same. Past half of the last-level cache the stores bypass it.
 TavStatus copy_bytes(const void* src, void* dst, size_t n);
 
-// The same under another plan for large blocks.
+// What an operation that changes nothing comes to.
+inline TavStatus copy_unless_in_place(const void* src, void* dst, size_t n) {
+  return src == dst ? tavStatusOk : copy_bytes(src, dst, n);
+}
+
+// The same as copy_bytes under another plan for large blocks.
 TavStatus copy_pairs(const void* src, void* dst, size_t n);
 
 // Any overlap. Never bypasses the cache.

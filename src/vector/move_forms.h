@@ -16,19 +16,6 @@ template <class T> TavStatus zeroed(T* dst, int len) {
   return shared::zero_bytes(dst, size_t(len) * sizeof(T));
 }
 
-// The bits of an element, repeated through a register. Built from words in registers: an argument that the caller has
-// just stored in pieces would be slow to load as a whole.
-template <class T> TAV_INLINE __m128i repeated(T val) {
-  constexpr size_t words = sizeof(T) <= 4 ? 1 : sizeof(T) / 4;
-  if constexpr (sizeof(T) == 1) return _mm_set1_epi8(char(val));
-  if constexpr (sizeof(T) == 2) return _mm_set1_epi16(short(val));
-  int w[words];
-  __builtin_memcpy(w, &val, sizeof val);
-  if constexpr (words == 1) return _mm_set1_epi32(w[0]);
-  if constexpr (words == 2) return _mm_setr_epi32(w[0], w[1], w[0], w[1]);
-  if constexpr (words == 4) return _mm_setr_epi32(w[0], w[1], w[2], w[3]);
-}
-
 template <class T> TavStatus filled(T val, T* dst, int len) {
   if (const TavStatus bad = check_vector(len, dst)) return bad;
   return shared::fill_elements<sizeof(T)>(dst, size_t(len), repeated(val));

@@ -132,6 +132,13 @@ inline constexpr auto pointers_then_length = [](auto function, auto each) {
   pointers_then_length_at<0>(function, each);
 };
 
+template <class... P> void length_then_pointers(TavStatus (*function)(P...), auto each) {
+  std::vector<fault<P...>> faults;
+  add_below_one<sizeof...(P) - 1>(faults);
+  add_null_pointers(faults);
+  each([&] { expect_faults(function, faults); });
+}
+
 // For exports that report no status: their rows stand so that the list is complete.
 inline constexpr auto no_status = [](auto, auto) {};
 
