@@ -24,6 +24,14 @@ void                    multiply(const Tav32fc* a, const Tav32fc* b, Tav32fc* ds
 void                    multiply_by(const float* src, float val, float* dst, int n);
 void                    multiply_by(const Tav32fc* src, Tav32fc val, Tav32fc* dst, int n);
 
+// Integers, scaled by 2^-s to nearest, ties to even, and saturated.
+template <class T> struct pair { T re, im; };
+void add_scaled(const int32_t* a, const int32_t* b, int32_t* dst, int n, int s);
+void multiply_scaled(const int32_t* a, const int32_t* b, int32_t* dst, int n, int s);
+void multiply_scaled(const int32_t* a, int32_t val, int32_t* dst, int n, int s);
+void multiply_scaled(const pair<int32_t>* a, const pair<int32_t>* b, pair<int32_t>* dst, int n, int s);
+void add_scaled(const int64_t* a, int64_t val, int64_t* dst, int n, int s);
+
 // Bits from the top of each byte.
 void copy_bits(const uint8_t* src, int src_bit, uint8_t* dst, int dst_bit, int n);
 // Bits from the bottom of each byte.

@@ -17,11 +17,12 @@
 #define TAVS_H
 
 #include "tavs/arithmetic.h"
-#include "tavs/scaled.h"
 #include "tavs/contexts.h"
+#include "tavs/division.h"
 #include "tavs/logic.h"
 #include "tavs/memory.h"
 #include "tavs/move.h"
+#include "tavs/scaled.h"
 #include "tavs/status.h"
 #include "tavs/types.h"
 

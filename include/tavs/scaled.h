@@ -53,7 +53,10 @@ extern "C" {
 TavStatus tavsAdd_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int scaleFactor);
 TavStatus tavsAdd_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
 TavStatus tavsAdd_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int scaleFactor);
+TavStatus tavsAdd_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
+TavStatus tavsAdd_64s_Sfs(const Tav64s* src1, const Tav64s* src2, Tav64s* dst, int len, int scaleFactor);
 TavStatus tavsAdd_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* dst, int len, int scaleFactor);
+TavStatus tavsAdd_32sc_Sfs(const Tav32sc* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsAdd in place with a scale factor
@@ -72,7 +75,9 @@ TavStatus tavsAdd_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* ds
 TavStatus tavsAdd_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int scaleFactor);
 TavStatus tavsAdd_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
 TavStatus tavsAdd_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int scaleFactor);
+TavStatus tavsAdd_32s_ISfs(const Tav32s* src, Tav32s* srcDst, int len, int scaleFactor);
 TavStatus tavsAdd_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int scaleFactor);
+TavStatus tavsAdd_32sc_ISfs(const Tav32sc* src, Tav32sc* srcDst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsSub with a scale factor
@@ -92,7 +97,9 @@ TavStatus tavsAdd_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int sc
 TavStatus tavsSub_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int len, int scaleFactor);
 TavStatus tavsSub_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
 TavStatus tavsSub_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int scaleFactor);
+TavStatus tavsSub_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
 TavStatus tavsSub_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* dst, int len, int scaleFactor);
+TavStatus tavsSub_32sc_Sfs(const Tav32sc* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsSub in place with a scale factor
@@ -111,7 +118,9 @@ TavStatus tavsSub_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* ds
 TavStatus tavsSub_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int scaleFactor);
 TavStatus tavsSub_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
 TavStatus tavsSub_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int scaleFactor);
+TavStatus tavsSub_32s_ISfs(const Tav32s* src, Tav32s* srcDst, int len, int scaleFactor);
 TavStatus tavsSub_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int scaleFactor);
+TavStatus tavsSub_32sc_ISfs(const Tav32sc* src, Tav32sc* srcDst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsMul with a scale factor
@@ -135,7 +144,11 @@ TavStatus tavsMul_8u_Sfs(const Tav8u* src1, const Tav8u* src2, Tav8u* dst, int l
 TavStatus tavsMul_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
 TavStatus tavsMul_16u_Sfs(const Tav16u* src1, const Tav16u* src2, Tav16u* dst, int len, int scaleFactor);
 TavStatus tavsMul_16u16s_Sfs(const Tav16u* src1, const Tav16s* src2, Tav16s* dst, int len, int scaleFactor);
+TavStatus tavsMul_16s32s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav32s* dst, int len, int scaleFactor);
+TavStatus tavsMul_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
 TavStatus tavsMul_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* dst, int len, int scaleFactor);
+TavStatus tavsMul_32s32sc_Sfs(const Tav32s* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
+TavStatus tavsMul_32sc_Sfs(const Tav32sc* src1, const Tav32sc* src2, Tav32sc* dst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsMul in place with a scale factor
@@ -153,7 +166,10 @@ TavStatus tavsMul_16sc_Sfs(const Tav16sc* src1, const Tav16sc* src2, Tav16sc* ds
 TavStatus tavsMul_8u_ISfs(const Tav8u* src, Tav8u* srcDst, int len, int scaleFactor);
 TavStatus tavsMul_16s_ISfs(const Tav16s* src, Tav16s* srcDst, int len, int scaleFactor);
 TavStatus tavsMul_16u_ISfs(const Tav16u* src, Tav16u* srcDst, int len, int scaleFactor);
+TavStatus tavsMul_32s_ISfs(const Tav32s* src, Tav32s* srcDst, int len, int scaleFactor);
 TavStatus tavsMul_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int scaleFactor);
+TavStatus tavsMul_32s32sc_ISfs(const Tav32s* src, Tav32sc* srcDst, int len, int scaleFactor);
+TavStatus tavsMul_32sc_ISfs(const Tav32sc* src, Tav32sc* srcDst, int len, int scaleFactor);
 /** @} */
 
 /**
@@ -170,6 +186,7 @@ TavStatus tavsMul_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int sc
  * @param scaleFactor the scale factor.
  * @return #tavStatusOk; #tavStatusNullPointer if a pointer is null; #tavStatusBadSize if @p len is below 1.
  */
+TavStatus tavsMul_Low_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* dst, int len, int scaleFactor);
 
 /** @name tavsAddC with a scale factor
  *  @{ */
@@ -189,7 +206,9 @@ TavStatus tavsMul_16sc_ISfs(const Tav16sc* src, Tav16sc* srcDst, int len, int sc
 TavStatus tavsAddC_8u_Sfs(const Tav8u* src, Tav8u val, Tav8u* dst, int len, int scaleFactor);
 TavStatus tavsAddC_16s_Sfs(const Tav16s* src, Tav16s val, Tav16s* dst, int len, int scaleFactor);
 TavStatus tavsAddC_16u_Sfs(const Tav16u* src, Tav16u val, Tav16u* dst, int len, int scaleFactor);
+TavStatus tavsAddC_32s_Sfs(const Tav32s* src, Tav32s val, Tav32s* dst, int len, int scaleFactor);
 TavStatus tavsAddC_16sc_Sfs(const Tav16sc* src, Tav16sc val, Tav16sc* dst, int len, int scaleFactor);
+TavStatus tavsAddC_32sc_Sfs(const Tav32sc* src, Tav32sc val, Tav32sc* dst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsAddC in place with a scale factor
@@ -207,7 +226,9 @@ TavStatus tavsAddC_16sc_Sfs(const Tav16sc* src, Tav16sc val, Tav16sc* dst, int l
 TavStatus tavsAddC_8u_ISfs(Tav8u val, Tav8u* srcDst, int len, int scaleFactor);
 TavStatus tavsAddC_16s_ISfs(Tav16s val, Tav16s* srcDst, int len, int scaleFactor);
 TavStatus tavsAddC_16u_ISfs(Tav16u val, Tav16u* srcDst, int len, int scaleFactor);
+TavStatus tavsAddC_32s_ISfs(Tav32s val, Tav32s* srcDst, int len, int scaleFactor);
 TavStatus tavsAddC_16sc_ISfs(Tav16sc val, Tav16sc* srcDst, int len, int scaleFactor);
+TavStatus tavsAddC_32sc_ISfs(Tav32sc val, Tav32sc* srcDst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsAddC of 64-bit integers
@@ -227,6 +248,10 @@ TavStatus tavsAddC_16sc_ISfs(Tav16sc val, Tav16sc* srcDst, int len, int scaleFac
  *                    nearest with ties away from zero.
  * @return #tavStatusOk; #tavStatusNullPointer if a pointer is null; #tavStatusBadSize if @p len is 0.
  */
+TavStatus tavsAddC_64s_Sfs(const Tav64s* src, Tav64s val, Tav64s* dst, unsigned int len, int scaleFactor,
+                           int roundMode);
+TavStatus tavsAddC_64u_Sfs(const Tav64u* src, Tav64u val, Tav64u* dst, unsigned int len, int scaleFactor,
+                           int roundMode);
 /** @} */
 
 /** @name tavsSubC with a scale factor
@@ -246,7 +271,9 @@ TavStatus tavsAddC_16sc_ISfs(Tav16sc val, Tav16sc* srcDst, int len, int scaleFac
 TavStatus tavsSubC_8u_Sfs(const Tav8u* src, Tav8u val, Tav8u* dst, int len, int scaleFactor);
 TavStatus tavsSubC_16s_Sfs(const Tav16s* src, Tav16s val, Tav16s* dst, int len, int scaleFactor);
 TavStatus tavsSubC_16u_Sfs(const Tav16u* src, Tav16u val, Tav16u* dst, int len, int scaleFactor);
+TavStatus tavsSubC_32s_Sfs(const Tav32s* src, Tav32s val, Tav32s* dst, int len, int scaleFactor);
 TavStatus tavsSubC_16sc_Sfs(const Tav16sc* src, Tav16sc val, Tav16sc* dst, int len, int scaleFactor);
+TavStatus tavsSubC_32sc_Sfs(const Tav32sc* src, Tav32sc val, Tav32sc* dst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsSubC in place with a scale factor
@@ -263,7 +290,9 @@ TavStatus tavsSubC_16sc_Sfs(const Tav16sc* src, Tav16sc val, Tav16sc* dst, int l
 TavStatus tavsSubC_8u_ISfs(Tav8u val, Tav8u* srcDst, int len, int scaleFactor);
 TavStatus tavsSubC_16s_ISfs(Tav16s val, Tav16s* srcDst, int len, int scaleFactor);
 TavStatus tavsSubC_16u_ISfs(Tav16u val, Tav16u* srcDst, int len, int scaleFactor);
+TavStatus tavsSubC_32s_ISfs(Tav32s val, Tav32s* srcDst, int len, int scaleFactor);
 TavStatus tavsSubC_16sc_ISfs(Tav16sc val, Tav16sc* srcDst, int len, int scaleFactor);
+TavStatus tavsSubC_32sc_ISfs(Tav32sc val, Tav32sc* srcDst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsSubCRev with a scale factor
@@ -283,7 +312,9 @@ TavStatus tavsSubC_16sc_ISfs(Tav16sc val, Tav16sc* srcDst, int len, int scaleFac
 TavStatus tavsSubCRev_8u_Sfs(const Tav8u* src, Tav8u val, Tav8u* dst, int len, int scaleFactor);
 TavStatus tavsSubCRev_16s_Sfs(const Tav16s* src, Tav16s val, Tav16s* dst, int len, int scaleFactor);
 TavStatus tavsSubCRev_16u_Sfs(const Tav16u* src, Tav16u val, Tav16u* dst, int len, int scaleFactor);
+TavStatus tavsSubCRev_32s_Sfs(const Tav32s* src, Tav32s val, Tav32s* dst, int len, int scaleFactor);
 TavStatus tavsSubCRev_16sc_Sfs(const Tav16sc* src, Tav16sc val, Tav16sc* dst, int len, int scaleFactor);
+TavStatus tavsSubCRev_32sc_Sfs(const Tav32sc* src, Tav32sc val, Tav32sc* dst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsSubCRev in place with a scale factor
@@ -300,7 +331,9 @@ TavStatus tavsSubCRev_16sc_Sfs(const Tav16sc* src, Tav16sc val, Tav16sc* dst, in
 TavStatus tavsSubCRev_8u_ISfs(Tav8u val, Tav8u* srcDst, int len, int scaleFactor);
 TavStatus tavsSubCRev_16s_ISfs(Tav16s val, Tav16s* srcDst, int len, int scaleFactor);
 TavStatus tavsSubCRev_16u_ISfs(Tav16u val, Tav16u* srcDst, int len, int scaleFactor);
+TavStatus tavsSubCRev_32s_ISfs(Tav32s val, Tav32s* srcDst, int len, int scaleFactor);
 TavStatus tavsSubCRev_16sc_ISfs(Tav16sc val, Tav16sc* srcDst, int len, int scaleFactor);
+TavStatus tavsSubCRev_32sc_ISfs(Tav32sc val, Tav32sc* srcDst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsMulC with a scale factor
@@ -320,7 +353,9 @@ TavStatus tavsSubCRev_16sc_ISfs(Tav16sc val, Tav16sc* srcDst, int len, int scale
 TavStatus tavsMulC_8u_Sfs(const Tav8u* src, Tav8u val, Tav8u* dst, int len, int scaleFactor);
 TavStatus tavsMulC_16s_Sfs(const Tav16s* src, Tav16s val, Tav16s* dst, int len, int scaleFactor);
 TavStatus tavsMulC_16u_Sfs(const Tav16u* src, Tav16u val, Tav16u* dst, int len, int scaleFactor);
+TavStatus tavsMulC_32s_Sfs(const Tav32s* src, Tav32s val, Tav32s* dst, int len, int scaleFactor);
 TavStatus tavsMulC_16sc_Sfs(const Tav16sc* src, Tav16sc val, Tav16sc* dst, int len, int scaleFactor);
+TavStatus tavsMulC_32sc_Sfs(const Tav32sc* src, Tav32sc val, Tav32sc* dst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsMulC in place with a scale factor
@@ -337,7 +372,9 @@ TavStatus tavsMulC_16sc_Sfs(const Tav16sc* src, Tav16sc val, Tav16sc* dst, int l
 TavStatus tavsMulC_8u_ISfs(Tav8u val, Tav8u* srcDst, int len, int scaleFactor);
 TavStatus tavsMulC_16s_ISfs(Tav16s val, Tav16s* srcDst, int len, int scaleFactor);
 TavStatus tavsMulC_16u_ISfs(Tav16u val, Tav16u* srcDst, int len, int scaleFactor);
+TavStatus tavsMulC_32s_ISfs(Tav32s val, Tav32s* srcDst, int len, int scaleFactor);
 TavStatus tavsMulC_16sc_ISfs(Tav16sc val, Tav16sc* srcDst, int len, int scaleFactor);
+TavStatus tavsMulC_32sc_ISfs(Tav32sc val, Tav32sc* srcDst, int len, int scaleFactor);
 /** @} */
 
 /** @name tavsMulC of 64-bit integers
@@ -358,6 +395,8 @@ TavStatus tavsMulC_16sc_ISfs(Tav16sc val, Tav16sc* srcDst, int len, int scaleFac
  * @param scaleFactor the scale factor.
  * @return #tavStatusOk; #tavStatusNullPointer if @p srcDst is null; #tavStatusBadSize if @p len is 0.
  */
+TavStatus tavsMulC_64s_ISfs(Tav64s val, Tav64s* srcDst, unsigned int len, int scaleFactor);
+TavStatus tavsMulC_64f64s_ISfs(Tav64f val, Tav64s* srcDst, unsigned int len, int scaleFactor);
 /** @} */
 
 /** @name tavsAddProduct with a scale factor
@@ -376,6 +415,8 @@ TavStatus tavsMulC_16sc_ISfs(Tav16sc val, Tav16sc* srcDst, int len, int scaleFac
  * @return #tavStatusOk; #tavStatusNullPointer if a pointer is null; #tavStatusBadSize if @p len is below 1.
  */
 TavStatus tavsAddProduct_16s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav16s* srcDst, int len, int scaleFactor);
+TavStatus tavsAddProduct_16s32s_Sfs(const Tav16s* src1, const Tav16s* src2, Tav32s* srcDst, int len, int scaleFactor);
+TavStatus tavsAddProduct_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s* srcDst, int len, int scaleFactor);
 /** @} */
 /** @} */
 

@@ -21,6 +21,13 @@ template <auto* Export> struct body;
 
 template <class R, class... A, R (*Export)(A...)> R entry<Export>::call(A... a) { return body<Export>::function(a...); }
 
+// Each is instantiated where its row stands, and nowhere else: other sources know no body.
+#define TAV_SHARED(name) extern template struct entry<&::tavs##name>;
+#define TAV_SPLIT(name) TAV_SHARED(name)
+#include "frame/exports.def"
+#undef TAV_SHARED
+#undef TAV_SPLIT
+
 // Calls another export's implementation: the shared one, or the one of this build. A shared body takes v8's.
 template <auto* Export, class... A> auto forward(A... a) {
   if constexpr (!is_split<Export>)

@@ -21,6 +21,12 @@ template <class... P> TAV_INLINE TavStatus check_length_first(int len, const P*.
   return any_null(p...) ? tavStatusNullPointer : tavStatusOk;
 }
 
+// The few functions whose length is unsigned: a negative one is a very long one.
+template <class... P> TAV_INLINE TavStatus check_unsigned_length(unsigned len, const P*... p) {
+  if (any_null(p...)) return tavStatusNullPointer;
+  return len == 0 ? tavStatusBadSize : tavStatusOk;
+}
+
 // Free functions, accessors: the record, then its id.
 template <record_id... Accepted, class Record> TAV_INLINE TavStatus check_record(const Record* record) {
   if (!record) return tavStatusNullPointer;

@@ -38,6 +38,12 @@ using round_toward_zero = sse_mode<sse_bits::rounding, sse_bits::toward_zero>;
 using round_to_nearest_masked =
     sse_mode<sse_bits::rounding | sse_bits::all_masks, sse_bits::to_nearest | sse_bits::all_masks>;
 
+// A scope holds back work on memory. A computation on arguments alone has to be held inside: result = held(f(held(x))).
+template <class T> inline T held(T v) {
+  __asm__ volatile("" : "+x"(v));
+  return v;
+}
+
 // The control word of the extended-precision unit: 64-bit precision, to nearest, all exceptions masked.
 class extended_mode {
  public:

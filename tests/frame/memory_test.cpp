@@ -31,11 +31,12 @@ template <auto* Export> void check_malloc() {
   });
 }
 
-#define EACH_TYPE(CASE)                                                                                            \
-  CASE(8u)                                                                                                         \
-  CASE(8s)                                                                                                         \
-  CASE(16u) CASE(16s) CASE(32u) CASE(32s) CASE(64s) CASE(32f) CASE(64f) CASE(8sc) CASE(16sc) CASE(32sc) CASE(64sc) \
-      CASE(32fc) CASE(64fc)
+#define EACH_TYPE(CASE)                                                                                             \
+  CASE(8u)                                                                                                          \
+  CASE(8s)                                                                                                          \
+  CASE(16u)                                                                                                         \
+  CASE(16s) CASE(32u) CASE(32s) CASE(64s) CASE(32f) CASE(64f) CASE(8sc) CASE(16sc) CASE(32sc) CASE(64sc) CASE(32fc) \
+      CASE(64fc)
 #define CASE(type)                                                 \
   TEST(Malloc, As##type) { check_malloc<&::tavsMalloc_##type>(); } \
   TAV_FAULTS(Malloc_##type, no_status)

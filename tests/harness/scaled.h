@@ -4,7 +4,7 @@
 // the order of the export's arguments; a destination that is read as well comes last.
 #pragma once
 #include "harness/layouts.h"
-#include "oracle/scale.h"
+#include "oracle/narrow_scale.h"
 
 namespace test {
 
@@ -47,7 +47,7 @@ inline std::vector<int> factors_between(int low, int high) {
   return all;
 }
 
-inline const std::set<int> scaled_lengths = lengths_around({200}, 70);
+inline const std::set<int> narrow_lengths = lengths_around({200}, 70);
 
 // tavsF(src1, src2, dst, len, scaleFactor)
 template <auto* Export, class A, class B, class D, class Exact>
@@ -67,7 +67,7 @@ void check_two_sources_scaled(const std::vector<int>& factors, const Exact& exac
   });
   for (int s : {0, 1, 3, -2})
     check_layouts<Export, D, A, B>(
-        scaled_lengths, [&](D* dst, int len, const A* a, const B* b) { return call<Export>(a, b, dst, len, s); },
+        narrow_lengths, [&](D* dst, int len, const A* a, const B* b) { return call<Export>(a, b, dst, len, s); },
         [&](std::vector<D>& dst, const std::vector<A>& a, const std::vector<B>& b) {
           for (size_t i = 0; i < dst.size(); ++i) dst[i] = scaled_element<D>(exact(a[i], b[i]), s);
           return tavStatusOk;
@@ -91,7 +91,7 @@ void check_in_place_scaled(const std::vector<int>& factors, const Exact& exact) 
   });
   for (int s : {0, 1, 3, -2})
     check_layouts<Export, D, A>(
-        scaled_lengths, [&](D* dst, int len, const A* a) { return call<Export>(a, dst, len, s); },
+        narrow_lengths, [&](D* dst, int len, const A* a) { return call<Export>(a, dst, len, s); },
         [&](std::vector<D>& dst, const std::vector<A>& a) {
           for (size_t i = 0; i < dst.size(); ++i) dst[i] = scaled_element<D>(exact(a[i], dst[i]), s);
           return tavStatusOk;
@@ -116,7 +116,7 @@ void check_accumulated_scaled(const std::vector<int>& factors, const Exact& exac
   });
   for (int s : {0, 1, 3, -2})
     check_layouts<Export, D, A, A>(
-        scaled_lengths, [&](D* dst, int len, const A* a, const A* b) { return call<Export>(a, b, dst, len, s); },
+        narrow_lengths, [&](D* dst, int len, const A* a, const A* b) { return call<Export>(a, b, dst, len, s); },
         [&](std::vector<D>& dst, const std::vector<A>& a, const std::vector<A>& b) {
           for (size_t i = 0; i < dst.size(); ++i) dst[i] = scaled_element<D>(exact(a[i], b[i], dst[i]), s);
           return tavStatusOk;
@@ -152,13 +152,13 @@ void check_constant_scaled(const std::vector<int>& factors, const Exact& exact) 
   const T val = data.value<T>();
   for (int s : {0, 1, 3, -2}) {
     check_layouts<Export, T, T>(
-        scaled_lengths, [&](T* dst, int len, const T* a) { return call<Export>(a, val, dst, len, s); },
+        narrow_lengths, [&](T* dst, int len, const T* a) { return call<Export>(a, val, dst, len, s); },
         [&](std::vector<T>& dst, const std::vector<T>& a) {
           for (size_t i = 0; i < dst.size(); ++i) dst[i] = scaled_element<T>(exact(a[i], val), s);
           return tavStatusOk;
         });
     check_layouts<InPlace, T>(
-        scaled_lengths, [&](T* dst, int len) { return call<InPlace>(val, dst, len, s); },
+        narrow_lengths, [&](T* dst, int len) { return call<InPlace>(val, dst, len, s); },
         [&](std::vector<T>& dst) {
           for (T& v : dst) v = scaled_element<T>(exact(v, val), s);
           return tavStatusOk;

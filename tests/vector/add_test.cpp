@@ -71,7 +71,8 @@ TEST(Add, LengthThatCannotBeDoubled) {
 
 #define CASE(form) TAV_FAULTS(Add_##form, pointers_then_length)
 CASE(8u16u)
-CASE(16s) CASE(16u) CASE(32u) CASE(16s32f) CASE(32f) CASE(64f) CASE(16s_I) CASE(16s32s_I) CASE(32f_I) CASE(64f_I)
+CASE(16s)
+CASE(16u) CASE(32u) CASE(16s32f) CASE(32f) CASE(64f) CASE(16s_I) CASE(16s32s_I) CASE(32f_I) CASE(64f_I)
 #undef CASE
 
 #define CASE(form) TAV_FAULTS(Add_##form, length_then_pointers)

@@ -42,7 +42,8 @@ template <auto* Export, auto* InPlace, class T> void check_swap() {
   TAV_FAULTS(Flip_##type##_I, pointers_then_length)
 CASE(8u)
 CASE(16u)
-CASE(32f) CASE(64f) CASE(32fc) CASE(64fc)
+CASE(32f)
+CASE(64f) CASE(32fc) CASE(64fc)
 #undef CASE
 
 #define CASE(type) \

@@ -33,7 +33,7 @@ const std::vector<int> byte_factors = factors_between(-10, 18), word_factors = f
 
 template <class T> const std::vector<int>& factors_of() { return sizeof(T) == 1 ? byte_factors : word_factors; }
 
-template <class P> void length_then_pointers(P function, auto each) {
+template <class P> void length_then_pointers_scaled(P function, auto each) {
   each([&] {
     Tav16sc a[4] = {}, b[4] = {}, *const null = nullptr;
     const auto expect = [&](TavStatus want, const Tav16sc* x, Tav16sc* y, int len) {
@@ -81,7 +81,8 @@ const auto pointers_then_length_scaled = [](auto function, auto each) { pointers
         factors_of<Tav##type>(), second_less_first);                                                                   \
   }
 SUMS(8u)
-SUMS(16s) SUMS(16u) SUMS(16sc)
+SUMS(16s)
+SUMS(16u) SUMS(16sc)
 #undef SUMS
 
 #define PRODUCTS(type)                                                                                             \
@@ -124,15 +125,16 @@ TEST(ScaledMul, CornersOfComplex) {
 #define ROWS(name)                                    \
   TAV_FAULTS(name##_Sfs, pointers_then_length_scaled) \
   TAV_FAULTS(name##_ISfs, pointers_then_length_scaled)
-#define ROWS_OF_PAIRS(name)                    \
-  TAV_FAULTS(name##_Sfs, length_then_pointers) \
-  TAV_FAULTS(name##_ISfs, length_then_pointers)
+#define ROWS_OF_PAIRS(name)                           \
+  TAV_FAULTS(name##_Sfs, length_then_pointers_scaled) \
+  TAV_FAULTS(name##_ISfs, length_then_pointers_scaled)
 
 ROWS(Add_8u)
-ROWS(Add_16s) ROWS(Add_16u) ROWS_OF_PAIRS(Add_16sc) ROWS(Sub_8u) ROWS(Sub_16s) ROWS(Sub_16u) ROWS_OF_PAIRS(Sub_16sc)
-    ROWS(AddC_8u) ROWS(AddC_16s) ROWS(AddC_16u) ROWS(AddC_16sc) ROWS(SubC_8u) ROWS(SubC_16s) ROWS(SubC_16u)
-        ROWS(SubC_16sc) ROWS(SubCRev_8u) ROWS(SubCRev_16s) ROWS(SubCRev_16u) ROWS(SubCRev_16sc) ROWS(Mul_8u)
-            ROWS(Mul_16s) ROWS(Mul_16u) ROWS(Mul_16sc) ROWS(MulC_8u) ROWS(MulC_16s) ROWS(MulC_16u) ROWS(MulC_16sc)
+ROWS(Add_16s)
+ROWS(Add_16u) ROWS_OF_PAIRS(Add_16sc) ROWS(Sub_8u) ROWS(Sub_16s) ROWS(Sub_16u) ROWS_OF_PAIRS(Sub_16sc) ROWS(AddC_8u)
+    ROWS(AddC_16s) ROWS(AddC_16u) ROWS(AddC_16sc) ROWS(SubC_8u) ROWS(SubC_16s) ROWS(SubC_16u) ROWS(SubC_16sc)
+        ROWS(SubCRev_8u) ROWS(SubCRev_16s) ROWS(SubCRev_16u) ROWS(SubCRev_16sc) ROWS(Mul_8u) ROWS(Mul_16s) ROWS(Mul_16u)
+            ROWS(Mul_16sc) ROWS(MulC_8u) ROWS(MulC_16s) ROWS(MulC_16u) ROWS(MulC_16sc)
                 TAV_FAULTS(Mul_16u16s_Sfs, pointers_then_length_scaled)
                     TAV_FAULTS(AddProduct_16s_Sfs, pointers_then_length_scaled)
 #undef ROWS

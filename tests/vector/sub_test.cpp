@@ -48,7 +48,8 @@ TEST(Sub, ConvertsBeforeItSubtracts16s32f) {
 
 #define CASE(form) TAV_FAULTS(Sub_##form, pointers_then_length)
 CASE(16s)
-CASE(16s32f) CASE(32f) CASE(64f) CASE(16s_I) CASE(32f_I) CASE(64f_I)
+CASE(16s32f)
+CASE(32f) CASE(64f) CASE(16s_I) CASE(32f_I) CASE(64f_I)
 #undef CASE
 
 #define CASE(form) TAV_FAULTS(Sub_##form, length_then_pointers)

@@ -1,0 +1,53 @@
+// tavsMulC_64s_ISfs, tavsMulC_64f64s_ISfs: products with integers of 64 bits on the extended-precision unit, whose 64
+// bits of significand hold every element. A product is rounded to that precision first, and to an integer then.
+#include "frame/bind.h"
+#include "frame/rounding.h"
+#include "vector/forms.h"
+
+namespace tav::TAV_VARIANT {
+
+using extended = long double;
+
+// Factors past these change nothing more: every product but zero is out of range by then, or rounds to zero. The
+// scaled constant stays finite, so that an element of zero stays zero.
+template <class T> constexpr int scale_limit         = 130;
+template <> constexpr int        scale_limit<Tav64f> = 1300;
+
+TAV_INLINE extended extended_power_of_two(int n) {
+  const struct {
+    uint64_t significand;
+    uint16_t exponent;
+  } parts{uint64_t(1) << 63, uint16_t(16383 + n)};
+  extended power = 0;
+  __builtin_memcpy(&power, &parts, 10);
+  return power;
+}
+
+// To the nearest integer. Of a NaN, and below the range, the unit makes the lowest one.
+TAV_INLINE Tav64s saturated(extended product) {
+  constexpr extended highest = extended(0x7FFFFFFFFFFFFFFF);
+  if (product > highest) product = highest;
+  Tav64s result;
+  __asm__("fistpll %0" : "=m"(result) : "t"(product) : "st");
+  return result;
+}
+
+// The length is unsigned, here and in what the function ends in.
+template <class T> TavStatus extended_mul_c(T val, Tav64s* srcDst, unsigned len, int scaleFactor) {
+  if (const TavStatus bad = check_unsigned_length(len, srcDst)) return bad;
+  if (val == 1 && scaleFactor == 0) return tavStatusOk;
+  if (val == 0) return shared::zero_bytes(srcDst, size_t(len) * sizeof(Tav64s));
+  constexpr int limit = scale_limit<T>;
+  const int     s     = scaleFactor > limit ? limit : scaleFactor < -limit ? -limit : scaleFactor;
+
+  const extended_mode scope;
+  __asm__ volatile("" : "+m"(val));  // multiplied in the scope, not before it
+  const extended multiplier = extended(val) * extended_power_of_two(-s);
+  for (size_t i = 0; i < len; ++i) poke(srcDst + i, saturated(extended(peek(srcDst + i)) * multiplier));
+  return tavStatusOk;
+}
+
+TAV_BIND(MulC_64s_ISfs, &extended_mul_c<Tav64s>)
+TAV_BIND(MulC_64f64s_ISfs, &extended_mul_c<Tav64f>)
+
+}  // namespace tav::TAV_VARIANT
