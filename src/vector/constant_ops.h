@@ -34,14 +34,6 @@ template <class Op> struct first_is_constant : types<typename Op::src2, typename
   reg<constant_type> all;
 };
 
-// val = n, both parts of a complex one: -0.0 is 0, too.
-template <class T> TAV_INLINE bool equals(T val, int n) {
-  if constexpr (requires { val.re; })
-    return val.re == n && val.im == 0;
-  else
-    return val == n;
-}
-
 // A constant may keep each element as it is, or make zeros of all. A zero that clears does so deliberately whatever the
 // source holds: infinities and NaNs too.
 template <class Op> struct zero_keeps : Op {

@@ -41,6 +41,14 @@ TavStatus accumulated(const typename Op::src1* src1, const typename Op::src2* sr
   return elementwise(Op{}, srcDst, size_t(len), src1, src2, self{});
 }
 
+// Whether a constant is n, both parts of a complex one: -0.0 is 0, too.
+template <class T> TAV_INLINE bool equals(T val, int n) {
+  if constexpr (requires { val.re; })
+    return val.re == n && val.im == 0;
+  else
+    return val == n;
+}
+
 // With a constant, which the operation is made from. Some constants spare the work: an operation may tell that one
 // keeps every element, or clears it.
 

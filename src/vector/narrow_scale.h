@@ -28,19 +28,19 @@ template <class Op> TAV_INLINE __m128i narrowed(pair_of_lanes r) {
     return row_of<Op>::narrow(r);
 }
 
-template <class Op> struct scaled_none {
+template <class Op> struct narrow_none {
   int     one(int64_t r) const { return limited<Op>(r); }
   __m128i many(pair_of_lanes r) const { return narrowed<Op>(r); }
 };
 
 // To nearest, ties to even: half of a unit less one is added, and one more where the quotient is odd.
-template <class Op> struct scaled_down {
+template <class Op> struct narrow_down {
   using row = row_of<Op>;
 
   int     s;
   __m128i count, below_half, lost_bits;
 
-  explicit scaled_down(int factor)
+  explicit narrow_down(int factor)
       : s(factor),
         count(_mm_cvtsi32_si128(s)),
         below_half(row::all(int((1u << (s - 1)) - 1))),
@@ -67,7 +67,7 @@ template <class Op> struct scaled_down {
 };
 
 // Unsigned, by all bits of the lane: 1 above half of its range, else 0.
-template <class Op> struct scaled_down_all {
+template <class Op> struct narrow_down_all {
   using row = row_of<Op>;
 
   int     one(int64_t r) const { return r > int64_t(1) << (row::bits - 1); }
@@ -81,13 +81,13 @@ template <class Op> struct scaled_down_all {
 };
 
 // Saturated before the shift, so that no bit is lost, and after it.
-template <class Op> struct scaled_up {
+template <class Op> struct narrow_up {
   using row = row_of<Op>;
 
   int     k;
   __m128i count;
 
-  explicit scaled_up(int shift) : k(shift), count(_mm_cvtsi32_si128(shift)) {}
+  explicit narrow_up(int shift) : k(shift), count(_mm_cvtsi32_si128(shift)) {}
 
   int     one(int64_t r) const { return limited<Op>(int64_t(limited<Op>(r)) * (int64_t(1) << k)); }
   __m128i many(pair_of_lanes r) const {
@@ -100,7 +100,7 @@ template <class Op> struct scaled_up {
 };
 
 // An operation and a kernel of the scale, seen by the element-wise shape as one operation.
-template <class Op, class Scale> struct scaled_op {
+template <class Op, class Scale> struct narrow_op {
   static constexpr kernel_shape shape{.vector_from = 15, .round_bytes = 16};
   Op                            op;
   Scale                         scale;
@@ -114,7 +114,7 @@ template <class Op, class Scale> struct scaled_op {
       return D(scale.one(r));
   }
   template <class... V> __m128i many(V... v) const {
-    if constexpr (std::is_same_v<Scale, scaled_none<Op>> && requires { op.saturated_many(v...); })
+    if constexpr (std::is_same_v<Scale, narrow_none<Op>> && requires { op.saturated_many(v...); })
       return op.saturated_many(v...);
     else
       return scale.many(op.exact_many(v...));
@@ -141,16 +141,16 @@ template <class Op, scale_range Range> struct narrow : Op {
     size_t           len;
     std::tuple<S...> sources;
 
-    TavStatus none() const { return start(scaled_none<Op>{}); }
+    TavStatus none() const { return start(narrow_none<Op>{}); }
     TavStatus down(int by) const {
       if constexpr (Op::result_reach == reach::top_bit_unsigned)
-        if (by == row_of<Op>::bits) return start(scaled_down_all<Op>{});
-      return start(scaled_down<Op>{by});
+        if (by == row_of<Op>::bits) return start(narrow_down_all<Op>{});
+      return start(narrow_down<Op>{by});
     }
-    TavStatus up(int by) const { return start(scaled_up<Op>{by}); }
+    TavStatus up(int by) const { return start(narrow_up<Op>{by}); }
 
     template <class Scale> TavStatus start(Scale scale) const {
-      const auto with = [&](S... src) { return elementwise(scaled_op<Op, Scale>{op, scale}, to, len, src...); };
+      const auto with = [&](S... src) { return elementwise(narrow_op<Op, Scale>{op, scale}, to, len, src...); };
       return std::apply(with, sources);
     }
   };

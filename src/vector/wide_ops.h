@@ -85,13 +85,6 @@ template <class Op, scale_range Range> struct scaled : Op {
 // What a constant can make superfluous.
 enum class shortcut { none, zero_adds_nothing, one_changes_nothing };
 
-template <class T> TAV_INLINE bool equals(T val, int number) {
-  if constexpr (requires { val.re; })
-    return val.re == number && val.im == 0;
-  else
-    return val == number;
-}
-
 template <class Op, scale_range Range, shortcut Shortcut> struct scaled_by_constant : Op {
   using D = typename Op::dst;
 
