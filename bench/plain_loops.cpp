@@ -80,141 +80,99 @@ template <class T> void bitwise_and(const T* __restrict a, const T* __restrict b
 
 template <class T> void bitwise_xor(const T* __restrict src, T value, T* __restrict dst, int n) {
   for (int i = 0; i < n; ++i) dst[i] = src[i] ^ value;
-  namespace {
+}
 
-  int64_t scaled(int64_t r, int s) { return s == 0 ? r : (r + ((int64_t(1) << (s - 1)) - 1) + (r >> s & 1)) >> s; }
+template <class T> void shift_left(const T* __restrict src, int count, T* __restrict dst, int n) {
+  for (int i = 0; i < n; ++i) dst[i] = T(src[i] << count);
+}
 
-  int32_t saturated(int64_t r) { return r > INT32_MAX ? INT32_MAX : r < INT32_MIN ? INT32_MIN : int32_t(r); }
+template <class T> void shift_right(const T* __restrict src, int count, T* __restrict dst, int n) {
+  for (int i = 0; i < n; ++i) dst[i] = T(src[i] >> count);
+}
 
-  int64_t saturated_sum(int64_t a, int64_t b) {
-    int64_t sum;
-    return !__builtin_add_overflow(a, b, &sum) ? sum : a < 0 ? INT64_MIN : INT64_MAX;
+template <class T> void add(const T* __restrict a, const T* __restrict b, T* __restrict dst, int n) {
+  for (int i = 0; i < n; ++i) dst[i] = a[i] + b[i];
+}
+
+void add_constant(const float* __restrict src, float val, float* __restrict dst, int n) {
+  for (int i = 0; i < n; ++i) dst[i] = src[i] + val;
+}
+
+void add_saturating(const int16_t* __restrict a, const int16_t* __restrict b, int16_t* __restrict dst, int n) {
+  for (int i = 0; i < n; ++i) {
+    const int sum = a[i] + b[i];
+    dst[i]        = int16_t(sum > 32767 ? 32767 : sum < -32768 ? -32768 : sum);
   }
+}
 
-  }  // namespace
+void multiply(const float* __restrict a, const float* __restrict b, float* __restrict dst, int n) {
+  for (int i = 0; i < n; ++i) dst[i] = a[i] * b[i];
+}
 
-  void add_scaled(const int32_t* __restrict a, const int32_t* __restrict b, int32_t* __restrict dst, int n, int s) {
-    for (int i = 0; i < n; ++i) dst[i] = saturated(scaled(int64_t(a[i]) + b[i], s));
+void multiply_by(const float* __restrict src, float val, float* __restrict dst, int n) {
+  for (int i = 0; i < n; ++i) dst[i] = src[i] * val;
+}
+
+void multiply(const Tav32fc* __restrict a, const Tav32fc* __restrict b, Tav32fc* __restrict dst, int n) {
+  for (int i = 0; i < n; ++i) {
+    dst[i].re = a[i].re * b[i].re - a[i].im * b[i].im;
+    dst[i].im = a[i].re * b[i].im + a[i].im * b[i].re;
   }
+}
 
-  void multiply_scaled(const int32_t* __restrict a, const int32_t* __restrict b, int32_t* __restrict dst, int n,
-                       int s) {
-    for (int i = 0; i < n; ++i) dst[i] = saturated(scaled(int64_t(a[i]) * b[i], s));
+void multiply_by(const Tav32fc* __restrict src, Tav32fc val, Tav32fc* __restrict dst, int n) {
+  for (int i = 0; i < n; ++i) {
+    dst[i].re = src[i].re * val.re - src[i].im * val.im;
+    dst[i].im = src[i].re * val.im + src[i].im * val.re;
   }
+}
 
-  void multiply_scaled(const int32_t* __restrict a, int32_t val, int32_t* __restrict dst, int n, int s) {
-    for (int i = 0; i < n; ++i) dst[i] = saturated(scaled(int64_t(a[i]) * val, s));
+void copy_bits(const uint8_t* src, int src_bit, uint8_t* dst, int dst_bit, int n) {
+  bits<from_top>(src, src_bit, dst, dst_bit, n);
+}
+
+void copy_bits_from_bottom(const uint8_t* src, int src_bit, uint8_t* dst, int dst_bit, int n) {
+  bits<from_bottom>(src, src_bit, dst, dst_bit, n);
+}
+
+int pack_bits(const uint32_t* __restrict src, const int32_t* __restrict widths, int n, uint8_t* __restrict dst) {
+  uint64_t pending = 0;
+  int      held = 0, total = 0;
+  for (int i = 0; i < n; ++i) {
+    const int width = widths[i];
+    pending         = pending << width | (src[i] & ((uint64_t(1) << width) - 1));
+    total += width;
+    for (held += width; held >= 8; held -= 8) *dst++ = uint8_t(pending >> (held - 8));
   }
+  if (held > 0) *dst = uint8_t(pending << (8 - held));
+  return total;
+}
 
-  void multiply_scaled(const pair<int32_t>* __restrict a, const pair<int32_t>* __restrict b,
-                       pair<int32_t>* __restrict dst, int n, int s) {
-    for (int i = 0; i < n; ++i) {
-      const int64_t re = int64_t(a[i].re) * b[i].re - int64_t(a[i].im) * b[i].im;
-      const int64_t im = int64_t(a[i].re) * b[i].im + int64_t(a[i].im) * b[i].re;
-      dst[i]           = {saturated(scaled(re, s)), saturated(scaled(im, s))};
-    }
-  }
+template void add(const float*, const float*, float*, int);
+template void add(const double*, const double*, double*, int);
+template void fill(uint8_t, uint8_t*, int);
+template void fill(int16_t, int16_t*, int);
+template void fill(float, float*, int);
+template void fill(double, double*, int);
+template void flip(const uint8_t*, uint8_t*, int);
+template void flip(const uint16_t*, uint16_t*, int);
+template void flip(const float*, float*, int);
+template void flip(const double*, double*, int);
+template void flip_in_place(uint8_t*, int);
+template void flip_in_place(uint16_t*, int);
+template void flip_in_place(float*, int);
+template void flip_in_place(double*, int);
+template void swap_bytes(const uint16_t*, uint16_t*, int);
+template void swap_bytes(const uint32_t*, uint32_t*, int);
+template void swap_bytes(const uint64_t*, uint64_t*, int);
+template void swap_bytes_in_place(uint16_t*, int);
+template void swap_bytes_in_place(uint32_t*, int);
+template void swap_bytes_in_place(uint64_t*, int);
+template void bitwise_and(const uint8_t*, const uint8_t*, uint8_t*, int);
+template void bitwise_and(const uint32_t*, const uint32_t*, uint32_t*, int);
+template void bitwise_xor(const uint16_t*, uint16_t, uint16_t*, int);
+template void shift_left(const int16_t*, int, int16_t*, int);
+template void shift_right(const uint8_t*, int, uint8_t*, int);
+template void shift_right(const int32_t*, int, int32_t*, int);
 
-  void add_scaled(const int64_t* __restrict a, int64_t val, int64_t* __restrict dst, int n, int s) {
-    for (int i = 0; i < n; ++i) dst[i] = scaled(saturated_sum(a[i], val), s);
-  }
-
-  void copy_bits(const uint8_t* src, int src_bit, uint8_t* dst, int dst_bit, int n) {
-    bits<from_top>(src, src_bit, dst, dst_bit, n);
-  }
-
-  template <class T> void shift_left(const T* __restrict src, int count, T* __restrict dst, int n) {
-    for (int i = 0; i < n; ++i) dst[i] = T(src[i] << count);
-  }
-
-  template <class T> void shift_right(const T* __restrict src, int count, T* __restrict dst, int n) {
-    for (int i = 0; i < n; ++i) dst[i] = T(src[i] >> count);
-  }
-
-  void add(const float* __restrict a, const float* __restrict b, float* __restrict dst, int n) {
-    template <class T> void add(const T* __restrict a, const T* __restrict b, T* __restrict dst, int n) {
-      for (int i = 0; i < n; ++i) dst[i] = a[i] + b[i];
-    }
-
-    void add_constant(const float* __restrict src, float val, float* __restrict dst, int n) {
-      for (int i = 0; i < n; ++i) dst[i] = src[i] + val;
-    }
-
-    void add_saturating(const int16_t* __restrict a, const int16_t* __restrict b, int16_t* __restrict dst, int n) {
-      for (int i = 0; i < n; ++i) {
-        const int sum = a[i] + b[i];
-        dst[i]        = int16_t(sum > 32767 ? 32767 : sum < -32768 ? -32768 : sum);
-      }
-    }
-
-    void multiply(const float* __restrict a, const float* __restrict b, float* __restrict dst, int n) {
-      for (int i = 0; i < n; ++i) dst[i] = a[i] * b[i];
-    }
-
-    void multiply_by(const float* __restrict src, float val, float* __restrict dst, int n) {
-      for (int i = 0; i < n; ++i) dst[i] = src[i] * val;
-    }
-
-    void multiply(const Tav32fc* __restrict a, const Tav32fc* __restrict b, Tav32fc* __restrict dst, int n) {
-      for (int i = 0; i < n; ++i) {
-        dst[i].re = a[i].re * b[i].re - a[i].im * b[i].im;
-        dst[i].im = a[i].re * b[i].im + a[i].im * b[i].re;
-      }
-    }
-
-    void multiply_by(const Tav32fc* __restrict src, Tav32fc val, Tav32fc* __restrict dst, int n) {
-      for (int i = 0; i < n; ++i) {
-        dst[i].re = src[i].re * val.re - src[i].im * val.im;
-        dst[i].im = src[i].re * val.im + src[i].im * val.re;
-      }
-    }
-
-    void copy_bits(const uint8_t* src, int src_bit, uint8_t* dst, int dst_bit, int n) {
-      bits<from_top>(src, src_bit, dst, dst_bit, n);
-    }
-
-    void copy_bits_from_bottom(const uint8_t* src, int src_bit, uint8_t* dst, int dst_bit, int n) {
-      bits<from_bottom>(src, src_bit, dst, dst_bit, n);
-    }
-
-    int pack_bits(const uint32_t* __restrict src, const int32_t* __restrict widths, int n, uint8_t* __restrict dst) {
-      uint64_t pending = 0;
-      int      held = 0, total = 0;
-      for (int i = 0; i < n; ++i) {
-        const int width = widths[i];
-        pending         = pending << width | (src[i] & ((uint64_t(1) << width) - 1));
-        total += width;
-        for (held += width; held >= 8; held -= 8) *dst++ = uint8_t(pending >> (held - 8));
-      }
-      if (held > 0) *dst = uint8_t(pending << (8 - held));
-      return total;
-    }
-
-    template void add(const float*, const float*, float*, int);
-    template void add(const double*, const double*, double*, int);
-    template void fill(uint8_t, uint8_t*, int);
-    template void fill(int16_t, int16_t*, int);
-    template void fill(float, float*, int);
-    template void fill(double, double*, int);
-    template void flip(const uint8_t*, uint8_t*, int);
-    template void flip(const uint16_t*, uint16_t*, int);
-    template void flip(const float*, float*, int);
-    template void flip(const double*, double*, int);
-    template void flip_in_place(uint8_t*, int);
-    template void flip_in_place(uint16_t*, int);
-    template void flip_in_place(float*, int);
-    template void flip_in_place(double*, int);
-    template void swap_bytes(const uint16_t*, uint16_t*, int);
-    template void swap_bytes(const uint32_t*, uint32_t*, int);
-    template void swap_bytes(const uint64_t*, uint64_t*, int);
-    template void swap_bytes_in_place(uint16_t*, int);
-    template void swap_bytes_in_place(uint32_t*, int);
-    template void swap_bytes_in_place(uint64_t*, int);
-    template void bitwise_and(const uint8_t*, const uint8_t*, uint8_t*, int);
-    template void bitwise_and(const uint32_t*, const uint32_t*, uint32_t*, int);
-    template void bitwise_xor(const uint16_t*, uint16_t, uint16_t*, int);
-    template void shift_left(const int16_t*, int, int16_t*, int);
-    template void shift_right(const uint8_t*, int, uint8_t*, int);
-    template void shift_right(const int32_t*, int, int32_t*, int);
-
-  }  // namespace plain
+}  // namespace plain

@@ -26,6 +26,13 @@ template <class T, class Wide, class F> void scaled(T* __restrict dst, int n, in
   }
 }
 
+int64_t rounded(int64_t r, int s) { return s == 0 ? r : (r + ((int64_t(1) << (s - 1)) - 1) + (r >> s & 1)) >> s; }
+
+int64_t saturated_sum(int64_t a, int64_t b) {
+  int64_t sum;
+  return !__builtin_add_overflow(a, b, &sum) ? sum : a < 0 ? INT64_MIN : INT64_MAX;
+}
+
 }  // namespace
 
 template <class T> void add_scaled(const T* __restrict a, const T* __restrict b, T* __restrict dst, int n, int s) {
@@ -48,6 +55,31 @@ void mul_scaled_pairs(const Tav16sc* __restrict a, const Tav16sc* __restrict b, 
     dst[i].re = part(int64_t(a[i].re) * b[i].re - int64_t(a[i].im) * b[i].im);
     dst[i].im = part(int64_t(a[i].re) * b[i].im + int64_t(a[i].im) * b[i].re);
   }
+}
+
+void add_scaled(const int32_t* __restrict a, const int32_t* __restrict b, int32_t* __restrict dst, int n, int s) {
+  for (int i = 0; i < n; ++i) dst[i] = limited<int32_t>(rounded(int64_t(a[i]) + b[i], s));
+}
+
+void multiply_scaled(const int32_t* __restrict a, const int32_t* __restrict b, int32_t* __restrict dst, int n, int s) {
+  for (int i = 0; i < n; ++i) dst[i] = limited<int32_t>(rounded(int64_t(a[i]) * b[i], s));
+}
+
+void multiply_scaled(const int32_t* __restrict a, int32_t val, int32_t* __restrict dst, int n, int s) {
+  for (int i = 0; i < n; ++i) dst[i] = limited<int32_t>(rounded(int64_t(a[i]) * val, s));
+}
+
+void multiply_scaled(const pair<int32_t>* __restrict a, const pair<int32_t>* __restrict b,
+                     pair<int32_t>* __restrict dst, int n, int s) {
+  for (int i = 0; i < n; ++i) {
+    const int64_t re = int64_t(a[i].re) * b[i].re - int64_t(a[i].im) * b[i].im;
+    const int64_t im = int64_t(a[i].re) * b[i].im + int64_t(a[i].im) * b[i].re;
+    dst[i]           = {limited<int32_t>(rounded(re, s)), limited<int32_t>(rounded(im, s))};
+  }
+}
+
+void add_scaled(const int64_t* __restrict a, int64_t val, int64_t* __restrict dst, int n, int s) {
+  for (int i = 0; i < n; ++i) dst[i] = rounded(saturated_sum(a[i], val), s);
 }
 
 template void add_scaled(const uint8_t*, const uint8_t*, uint8_t*, int, int);

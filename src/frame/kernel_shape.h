@@ -19,11 +19,10 @@ namespace tav::TAV_VARIANT {
 inline constexpr size_t never = ~size_t(0);
 
 struct kernel_shape {
-  int    vector_from;  // below this length the scalar loop does all the work; at least a register less one
-  int    round_bytes;  // bytes of dst in one round of the main loop
-  int    step = 0;     // elements in one call of many(); 0: as many as one register of dst holds
-  size_t stream_above =
-      never;  // rounds above which stores bypass the cache; never in place, where loads have filled it
+  int    vector_from;           // below this length the scalar loop does all the work; at least a register less one
+  int    round_bytes;           // bytes of dst in one round of the main loop
+  int    step         = 0;      // elements in one call of many(); 0: as many as one register of dst holds
+  size_t stream_above = never;  // rounds above which stores bypass the cache
 };
 
 struct self {};  // as a source: the destination itself (in-place forms)
@@ -90,6 +89,7 @@ TAV_INLINE void rounds_and_tail(Op& op, D* dst, size_t head, size_t rounds, size
   scalar_loop(op, dst, done, len, src...);
 }
 
+// In place the loads have brought the destination into the cache already.
 template <class Op, class... S>
 inline constexpr bool may_stream = Op::shape.stream_above != never && !(std::is_same_v<S, self> || ...);
 
