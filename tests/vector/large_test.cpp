@@ -33,7 +33,7 @@ class long_array {
 
   bool  ready() const { return begin_ != nullptr; }
   void* data() const { return begin_; }
-  char* last() const { return begin_ + repeated; }  // the first byte beyond 4 GiB
+  char* last() const { return begin_ + size_t(repeated); }  // the first byte beyond 4 GiB
 
  private:
   char* begin_ = nullptr;
