@@ -62,8 +62,9 @@ template <class T> operands<T, T> hard_operands(int s, source_of_data& data) {
   if constexpr (sizeof(T) == 1) {
     for (int n = 0; n < 65536; ++n) o.add(T(n), T(n >> 8));
   } else {
-    if (s <= 0) add_near_ties_up(o, s, data);
-    if (s < 32) add_ties(o, s, data);
+    const bool near = s > -40 && s < 32;  // factors farther out know no ties
+    if (near && s <= 0) add_near_ties_up(o, s, data);
+    if (near) add_ties(o, s, data);
     add_drawn(o, 20000, data);
   }
   return o;
