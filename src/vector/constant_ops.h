@@ -34,21 +34,6 @@ template <class Op> struct first_is_constant : types<typename Op::src2, typename
   reg<constant_type> all;
 };
 
-// A constant may keep each element as it is, or make zeros of all. A zero that clears does so deliberately whatever the
-// source holds: infinities and NaNs too.
-template <class Op> struct zero_keeps : Op {
-  using Op::Op;
-  static bool keeps(typename Op::src2 val) { return equals(val, 0); }
-};
-template <class Op> struct one_keeps : Op {
-  using Op::Op;
-  static bool keeps(typename Op::src2 val) { return equals(val, 1); }
-};
-template <class Op> struct zero_clears : Op {
-  using Op::Op;
-  static bool clears(typename Op::src2 val) { return equals(val, 0); }
-};
-
 // What the families compute. Reversed differences know no shortcut, and a complex zero does not clear: the products of
 // infinities and NaNs stay NaNs.
 template <class T> using plus_constant  = zero_keeps<second_is_constant<sum_of<T>>>;

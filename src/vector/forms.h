@@ -4,6 +4,7 @@
 #include "frame/checks.h"
 #include "frame/kernel_shape.h"
 #include "vector/byte_engine.h"
+#include "vector/shortcuts.h"
 
 namespace tav::TAV_VARIANT {
 
@@ -41,30 +42,7 @@ TavStatus accumulated(const typename Op::src1* src1, const typename Op::src2* sr
   return elementwise(Op{}, srcDst, size_t(len), src1, src2, self{});
 }
 
-// Whether a constant is n, both parts of a complex one: -0.0 is 0, too.
-template <class T> TAV_INLINE bool equals(T val, int n) {
-  if constexpr (requires { val.re; })
-    return val.re == n && val.im == 0;
-  else
-    return val == n;
-}
-
-// With a constant, which the operation is made from. Some constants spare the work: an operation may tell that one
-// keeps every element, or clears it.
-
-template <class Op> TAV_INLINE bool keeps(typename Op::src2 val) {
-  if constexpr (requires { Op::keeps(val); })
-    return Op::keeps(val);
-  else
-    return false;
-}
-
-template <class Op> TAV_INLINE bool clears(typename Op::src2 val) {
-  if constexpr (requires { Op::clears(val); })
-    return Op::clears(val);
-  else
-    return false;
-}
+// With a constant, which the operation is made from, and which may spare the work.
 
 template <class Op>
 TavStatus constant(const typename Op::src1* src, typename Op::src2 val, typename Op::dst* dst, int len) {

@@ -2,7 +2,6 @@
 // constant forms and AddProduct compute before the scale factor. Complex elements are taken part by part, but for the
 // complex product.
 #pragma once
-#include "vector/forms.h"
 #include "vector/narrow_scale.h"
 
 namespace tav::TAV_VARIANT {
@@ -43,7 +42,7 @@ template <class F>
 concept saturates = !std::is_same_v<F, multiplied>;
 
 // F of two sources; Swapped: of the second and the first.
-template <class F, class T, bool Swapped = false> struct of_two : types<T, T, T> {
+template <class F, class T, bool Swapped = false> struct of_two : narrow_types<T, T, T> {
   using part                          = T;
   static constexpr reach result_reach = F::template reach_of<T>;
 
@@ -57,7 +56,7 @@ template <class F, class T, bool Swapped = false> struct of_two : types<T, T, T>
 };
 
 // F of a source and a constant; Swapped: of the constant and the source.
-template <class F, class T, bool Swapped = false> struct of_constant : types<T, T, T> {
+template <class F, class T, bool Swapped = false> struct of_constant : narrow_types<T, T, T> {
   using part                          = part_of<T>;
   static constexpr reach result_reach = F::template reach_of<part>;
 
@@ -98,7 +97,7 @@ template <class F, class T, bool Swapped = false> struct of_constant : types<T, 
 
 // a * b of complex elements. Parts reach 2^31 only where all four inputs are -32768, and only from above: there the
 // 32-bit lane wraps to its lowest value, which no other input gives, and 2^31 - 1 scales to the same result.
-struct complex_product_16sc : types<Tav16sc, Tav16sc, Tav16sc> {
+struct complex_product_16sc : narrow_types<Tav16sc, Tav16sc, Tav16sc> {
   using part                          = Tav16s;
   static constexpr reach result_reach = reach::top_bit;
 
@@ -115,7 +114,7 @@ struct complex_product_16sc : types<Tav16sc, Tav16sc, Tav16sc> {
   }
 };
 
-struct complex_times_constant_16sc : types<Tav16sc, Tav16sc, Tav16sc> {
+struct complex_times_constant_16sc : narrow_types<Tav16sc, Tav16sc, Tav16sc> {
   using part                          = Tav16s;
   static constexpr reach result_reach = reach::top_bit;
 
@@ -132,7 +131,7 @@ struct complex_times_constant_16sc : types<Tav16sc, Tav16sc, Tav16sc> {
   __m128i all;
 };
 
-struct product_16u16s : types<Tav16u, Tav16s, Tav16s> {
+struct product_16u16s : narrow_types<Tav16u, Tav16s, Tav16s> {
   using part                          = Tav16s;
   static constexpr reach result_reach = reach::top_bit;
 
@@ -145,7 +144,7 @@ struct product_16u16s : types<Tav16u, Tav16s, Tav16s> {
   }
 };
 
-struct product_and_sum_16s : types<Tav16s, Tav16s, Tav16s> {
+struct product_and_sum_16s : narrow_types<Tav16s, Tav16s, Tav16s> {
   using part                          = Tav16s;
   using row                           = narrow_row<Tav16s>;
   static constexpr reach result_reach = reach::top_bit;

@@ -10,8 +10,8 @@ template <> inline constexpr scale_range        product_range<Tav8u>{16, -8};
 template <> inline constexpr scale_range        product_range<Tav16u>{32, -16};
 // clang-format on
 
-template <class T> using scaled_product        = narrow<of_two<multiplied, T>, product_range<T>>;
-template <class T> using scaled_times_constant = narrow<of_constant<multiplied, T>, product_range<T>>;
+template <class T> using scaled_product        = scaled<of_two<multiplied, T>, product_range<T>>;
+template <class T> using scaled_times_constant = scaled<of_constant<multiplied, T>, product_range<T>>;
 
 inline constexpr scale_range complex_product_range{31, -16};
 

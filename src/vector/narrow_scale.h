@@ -4,11 +4,8 @@
 // far that result reaches in its lane. One that reaches the top bit is rounded by its lower bits alone, which leaves
 // room for the carry.
 #pragma once
-#include <tuple>
-
-#include "vector/forms.h"
 #include "vector/narrow_lanes.h"
-#include "vector/scale.h"
+#include "vector/scaled.h"
 
 namespace tav::TAV_VARIANT {
 
@@ -99,8 +96,8 @@ template <class Op> struct narrow_up {
   }
 };
 
-// An operation and a kernel of the scale, seen by the element-wise shape as one operation.
-template <class Op, class Scale> struct narrow_op {
+// An operation and a scale, seen by the element-wise shape as one operation.
+template <class Op, class Scale> struct narrow_kernel {
   static constexpr kernel_shape shape{.vector_from = 15, .round_bytes = 16};
   Op                            op;
   Scale                         scale;
@@ -121,39 +118,23 @@ template <class Op, class Scale> struct narrow_op {
   }
 };
 
-// The engine of a family: an operation within its bounds, as the argument patterns run it.
-template <class Op, scale_range Range> struct narrow : Op {
-  using dst = typename Op::dst;
+// Runs `with` one of the scales.
+template <class Op, class With> struct each_narrow_scale {
+  const With& with;
 
-  template <class... S> static TavStatus run(int s, dst* to, size_t len, S... src) {
-    return with_scale<Range>(s, to, len, kernels<S...>{Op{}, to, len, {src...}});
+  TavStatus none() const { return with(narrow_none<Op>{}); }
+  TavStatus down(int by) const {
+    if constexpr (Op::result_reach == reach::top_bit_unsigned)
+      if (by == row_of<Op>::bits) return with(narrow_down_all<Op>{});
+    return with(narrow_down<Op>{by});
   }
-  template <class S> static TavStatus run(int s, typename Op::src2 val, dst* to, size_t len, S src) {
-    if (s == 0 && Op::keeps(val)) return copied(to, len, src);
-    if (Op::clears(val)) return shared::zero_bytes(to, len * sizeof(dst));
-    return with_scale<Range>(s, to, len, kernels<S>{Op{val}, to, len, {src}});
-  }
+  TavStatus up(int by) const { return with(narrow_up<Op>{by}); }
+};
 
- private:
-  template <class... S> struct kernels {
-    Op               op;
-    dst*             to;
-    size_t           len;
-    std::tuple<S...> sources;
-
-    TavStatus none() const { return start(narrow_none<Op>{}); }
-    TavStatus down(int by) const {
-      if constexpr (Op::result_reach == reach::top_bit_unsigned)
-        if (by == row_of<Op>::bits) return start(narrow_down_all<Op>{});
-      return start(narrow_down<Op>{by});
-    }
-    TavStatus up(int by) const { return start(narrow_up<Op>{by}); }
-
-    template <class Scale> TavStatus start(Scale scale) const {
-      const auto with = [&](S... src) { return elementwise(narrow_op<Op, Scale>{op, scale}, to, len, src...); };
-      return std::apply(with, sources);
-    }
-  };
+// The base of operations of this kind.
+template <class S1, class S2, class D> struct narrow_types : types<S1, S2, D> {
+  template <class Op, class Scale> using kernel = narrow_kernel<Op, Scale>;
+  template <class Op, class With> using scales  = each_narrow_scale<Op, With>;
 };
 
 }  // namespace tav::TAV_VARIANT

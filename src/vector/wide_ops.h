@@ -1,9 +1,7 @@
-// Scaled functions whose results have 32 bits: an operation makes exact numbers of its sources (`exact`), a scale
-// brings them back, and a kernel is the two together.
+// Scaled functions whose results have 32 bits: an operation makes exact numbers of its sources (`exact`), which are of
+// the kind `number`; a scale brings them back to 32 bits.
 #pragma once
-#include "vector/forms.h"
-#include "vector/move_forms.h"
-#include "vector/scale.h"
+#include "vector/scaled.h"
 #include "vector/wide_lanes.h"
 
 namespace tav::TAV_VARIANT {
@@ -23,85 +21,46 @@ template <class T> TAV_INLINE T       from_a_lane(__m128i v) {
 }
 
 // The scalar parts use the first lanes of a register: there is no narrower way to be exact that were faster.
-template <class Op, class Scale> struct scaled_kernel {
+template <class Op, class Scale> struct wide_kernel {
   static constexpr kernel_shape shape = wide_shape;
 
+  Op    op;
   Scale scale;
 
   template <class... S> typename Op::dst one(S... s) const {
     return from_a_lane<typename Op::dst>(many(in_a_lane(s)...));
   }
-  template <class... R> __m128i many(R... r) const { return scale.of(Op::exact(r...)); }
+  template <class... R> __m128i many(R... r) const { return scale.of(op.exact(r...)); }
 };
 
-// The constant is the last source of the operation.
-template <class Op, class Scale> struct constant_kernel {
-  static constexpr kernel_shape shape = wide_shape;
-
-  Scale   scale;
-  __m128i val;
-
-  typename Op::dst one(typename Op::src1 a) const { return from_a_lane<typename Op::dst>(many(in_a_lane(a))); }
-  __m128i          many(__m128i a) const { return scale.of(Op::exact(a, val)); }
-};
-
-// Runs `with` one of the scales of the exact number X.
-template <class X, class With> struct each_scale {
+// Runs `with` one of the scales.
+template <class Op, class With> struct each_wide_scale {
   const With& with;
 
   TavStatus none() const { return with(unscaled{}); }
   TavStatus up(int by) const { return with(scaled_up(by)); }
   TavStatus down(int s) const {
-    if constexpr (std::is_same_v<X, exact_sum>)
+    if constexpr (std::is_same_v<typename Op::number, exact_sum>)
       if (s == 1) return with(halved{});
-    return with(scaled_down<X>(s));
+    return with(scaled_down<typename Op::number>(s));
   }
 };
 
-template <scale_range Range, class X, class D, class With>
-TAV_INLINE TavStatus with_scale_of(int s, D* dst, size_t len, const With& with) {
-  return with_scale<Range>(s, dst, len, each_scale<X, With>{with});
-}
-
-// In place and not share their kernels: here a source on the destination costs nothing.
-template <class D> TAV_INLINE const D*          source(D* dst, self) { return dst; }
-template <class D, class S> TAV_INLINE const S* source(D*, const S* src) { return src; }
-
-// An operation on arrays: `Op` says what is exact, and from where to where.
-template <class Op, scale_range Range> struct scaled : Op {
-  template <class... S> static TavStatus run(int s, typename Op::dst* dst, size_t len, S... src) {
-    return run_on(s, dst, len, source(dst, src)...);
-  }
-
- private:
-  template <class... S> static TavStatus run_on(int s, typename Op::dst* dst, size_t len, const S*... src) {
-    using exact = decltype(Op::exact(((void)src, __m128i{})...));
-    return with_scale_of<Range, exact>(s, dst, len, [&](auto scale) {
-      return elementwise(scaled_kernel<Op, decltype(scale)>{scale}, dst, len, src...);
-    });
-  }
+// The base of operations of this kind.
+template <class Number, class S1, class S2, class D> struct wide_types : types<S1, S2, D> {
+  using number                                  = Number;
+  template <class Op, class Scale> using kernel = wide_kernel<Op, Scale>;
+  template <class Op, class With> using scales  = each_wide_scale<Op, With>;
 };
 
-// What a constant can make superfluous.
-enum class shortcut { none, zero_adds_nothing, one_changes_nothing };
+// An operation with a constant for its second operand.
+template <class Op> struct by_constant : Op {
+  explicit by_constant(typename Op::src2 v) : val(repeated(v)) {}
 
-template <class Op, scale_range Range, shortcut Shortcut> struct scaled_by_constant : Op {
-  using D = typename Op::dst;
-
-  template <class S> static TavStatus run(int s, D val, D* dst, size_t len, S src) {
-    constexpr bool product = Shortcut == shortcut::one_changes_nothing;
-    if (Shortcut != shortcut::none && s == 0 && equals(val, product ? 1 : 0)) return copied(dst, len, src);
-    if (product && equals(val, 0)) return shared::zero_bytes(dst, len * sizeof(D));
-    return run_on(s, val, dst, len, source(dst, src));
-  }
+  auto exact(__m128i a) const { return Op::exact(a, val); }
 
  private:
-  static TavStatus run_on(int s, D val, D* dst, size_t len, const D* src) {
-    using exact = decltype(Op::exact(__m128i{}, __m128i{}));
-    return with_scale_of<Range, exact>(s, dst, len, [&](auto scale) {
-      return elementwise(constant_kernel<Op, decltype(scale)>{scale, repeated(val)}, dst, len, src);
-    });
-  }
+  __m128i val;
 };
 
 }  // namespace tav::TAV_VARIANT

@@ -11,29 +11,29 @@ constexpr scale_range word_products{.zero_above = 30, .sign_from = -31};
 constexpr scale_range word_products_plus{.zero_above = 32, .sign_from = -31};
 constexpr scale_range products_plus{.zero_above = 62, .sign_from = -31};  // 63 could give 1, and gives 0
 
-struct product_32s : types<Tav32s, Tav32s, Tav32s> {
+struct product_32s : wide_types<exact_product, Tav32s, Tav32s, Tav32s> {
   static exact_product exact(__m128i a, __m128i b) { return product_of(a, b); }
 };
 
-struct product_32s32sc : types<Tav32s, Tav32sc, Tav32sc> {
+struct product_32s32sc : wide_types<exact_product, Tav32s, Tav32sc, Tav32sc> {
   static exact_product exact(__m128i re, __m128i b) {
     return product_of(_mm_shuffle_epi32(re, _MM_SHUFFLE(1, 1, 0, 0)), b);
   }
 };
 
-struct product_32sc : types<Tav32sc, Tav32sc, Tav32sc> {
+struct product_32sc : wide_types<exact_product_sum, Tav32sc, Tav32sc, Tav32sc> {
   static exact_product_sum exact(__m128i a, __m128i b) { return complex_product_of(a, b); }
 };
 
-struct product_16s32s : types<Tav16s, Tav16s, Tav32s> {
+struct product_16s32s : wide_types<exact_word_product, Tav16s, Tav16s, Tav32s> {
   static exact_word_product exact(__m128i a, __m128i b) { return word_product_of(a, b); }
 };
 
-struct product_plus_16s32s : types<Tav16s, Tav16s, Tav32s> {
+struct product_plus_16s32s : wide_types<exact_sum, Tav16s, Tav16s, Tav32s> {
   static exact_sum exact(__m128i a, __m128i b, __m128i c) { return sum_of(word_product_of(a, b).value, c); }
 };
 
-struct product_plus_32s : types<Tav32s, Tav32s, Tav32s> {
+struct product_plus_32s : wide_types<exact_product, Tav32s, Tav32s, Tav32s> {
   static exact_product exact(__m128i a, __m128i b, __m128i c) { return product_plus(a, b, c); }
 };
 
@@ -111,20 +111,19 @@ template <class With> struct each_low_scale {
   }
 };
 
-struct mul_low_32s : types<Tav32s, Tav32s, Tav32s> {
-  static TavStatus run(int s, Tav32s* dst, size_t len, const Tav32s* src1, const Tav32s* src2) {
-    const auto with = [&](auto scale) {
-      return elementwise(scaled_kernel<product_32s, decltype(scale)>{scale}, dst, len, src1, src2);
-    };
-    return with_scale<products>(s, dst, len, each_low_scale<decltype(with)>{with});
-  }
+struct product_low_32s : product_32s {
+  template <class Op, class With> using scales = each_low_scale<With>;
 };
 
+// What a constant makes superfluous.
+template <class Op> using times = zero_clears<one_keeps<by_constant<Op>>>;
+
+using mul_low_32s        = scaled<product_low_32s, products>;
 using mul_32s32sc        = scaled<product_32s32sc, products>;
 using mul_32sc           = scaled<product_32sc, complex_products>;
 using mul_16s32s         = scaled<product_16s32s, word_products>;
-using mul_c_32s          = scaled_by_constant<product_32s, products, shortcut::one_changes_nothing>;
-using mul_c_32sc         = scaled_by_constant<product_32sc, complex_products, shortcut::one_changes_nothing>;
+using mul_c_32s          = scaled<times<product_32s>, products>;
+using mul_c_32sc         = scaled<times<product_32sc>, complex_products>;
 using add_product_16s32s = scaled<product_plus_16s32s, word_products_plus>;
 using add_product_32s    = scaled<product_plus_32s, products_plus>;
 

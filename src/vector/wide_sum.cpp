@@ -6,24 +6,24 @@ namespace tav::TAV_VARIANT {
 
 constexpr scale_range sums{.zero_above = 32, .sign_from = -31};
 
-template <class T> struct wide_sum : types<T, T, T> {
+template <class T> struct wide_sum : wide_types<exact_sum, T, T, T> {
   static exact_sum exact(__m128i a, __m128i b) { return sum_of(a, b); }
 };
 
-template <class T> struct wide_difference : types<T, T, T> {
+template <class T> struct wide_difference : wide_types<exact_sum, T, T, T> {
   static exact_sum exact(__m128i a, __m128i b) { return difference_of(a, b); }
 };
 
-template <class T> struct wide_difference_reversed : types<T, T, T> {
+template <class T> struct wide_difference_reversed : wide_types<exact_sum, T, T, T> {
   static exact_sum exact(__m128i a, __m128i b) { return difference_of(b, a); }
 };
 
 using add = scaled<wide_sum<Tav32s>, sums>;
 using sub = scaled<wide_difference_reversed<Tav32s>, sums>;  // the first source is taken from the second
 
-template <class T> using add_c     = scaled_by_constant<wide_sum<T>, sums, shortcut::zero_adds_nothing>;
-template <class T> using sub_c     = scaled_by_constant<wide_difference<T>, sums, shortcut::zero_adds_nothing>;
-template <class T> using sub_c_rev = scaled_by_constant<wide_difference_reversed<T>, sums, shortcut::none>;
+template <class T> using add_c     = scaled<zero_keeps<by_constant<wide_sum<T>>>, sums>;
+template <class T> using sub_c     = scaled<zero_keeps<by_constant<wide_difference<T>>>, sums>;
+template <class T> using sub_c_rev = scaled<by_constant<wide_difference_reversed<T>>, sums>;
 
 TAV_BIND(Add_32s_Sfs, &two_sources_scaled<add>)
 TAV_BIND(Add_32s_ISfs, &in_place_scaled<add>)

@@ -132,8 +132,4 @@ template <class Check> void in_hostile_modes(const Check& check) {
   }
 }
 
-inline constexpr auto pointers_then_length_scaled = [](auto function, auto each) {
-  pointers_then_length_at<1>(function, each);
-};
-
 }  // namespace test

@@ -128,16 +128,37 @@ void pointers_then_length_at(TavStatus (*function)(P...), const Build& each) {
   each([&] { expect_faults(function, faults); });
 }
 
-inline constexpr auto pointers_then_length = [](auto function, auto each) {
-  pointers_then_length_at<0>(function, each);
-};
-
-template <class... P> void length_then_pointers(TavStatus (*function)(P...), auto each) {
+template <size_t From_end, class Build, class... P>
+void length_then_pointers_at(TavStatus (*function)(P...), const Build& each) {
   std::vector<fault<P...>> faults;
-  add_below_one<sizeof...(P) - 1>(faults);
+  add_below_one<sizeof...(P) - 1 - From_end>(faults);
   add_null_pointers(faults);
   each([&] { expect_faults(function, faults); });
 }
+
+// Of a length without a sign only 0 is bad.
+template <size_t From_end, class Build, class... P>
+void pointers_then_unsigned_length_at(TavStatus (*function)(P...), const Build& each) {
+  std::vector<fault<P...>> faults;
+  add_null_pointers(faults);
+  faults.push_back(
+      {"length 0", tavStatusBadSize, [](arguments<P...>& a) { a.template set<sizeof...(P) - 1 - From_end>(0); }});
+  each([&] { expect_faults(function, faults); });
+}
+
+inline constexpr auto pointers_then_length = [](auto function, auto each) {
+  pointers_then_length_at<0>(function, each);
+};
+inline constexpr auto length_then_pointers = [](auto function, auto each) {
+  length_then_pointers_at<0>(function, each);
+};
+// With a scale factor behind the length.
+inline constexpr auto pointers_then_length_scaled = [](auto function, auto each) {
+  pointers_then_length_at<1>(function, each);
+};
+inline constexpr auto length_then_pointers_scaled = [](auto function, auto each) {
+  length_then_pointers_at<1>(function, each);
+};
 
 // For exports that report no status: their rows stand so that the list is complete.
 inline constexpr auto no_status = [](auto, auto) {};

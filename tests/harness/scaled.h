@@ -1,169 +1,209 @@
-// Checks of the functions with a scale factor: an exact definition, swept over factors, values and layouts.
+// Scaled functions of every pattern of arguments, against the definition of one element.
 //
-// `exact` takes elements and gives the exact result as an integer (or a pair {re, im} of them), with the operands in
-// the order of the export's arguments; a destination that is read as well comes last.
+//   check_scaled<&::tavsAdd_32s_Sfs>([](Tav32s a, Tav32s b, int s) { ... });
+//
+// Each function runs over the layouts with a few scale factors, then over all factors that make a difference with
+// values that do: bytes at all pairs, 16-bit elements at all values with a few partners, others at values drawn. `one`
+// takes what the function reads: the sources, the constant, the former element of a destination that is a source too
+// (behind the others), and the scale factor.
 #pragma once
+#include <limits.h>
+
+#include "harness/faults.h"
 #include "harness/layouts.h"
-#include "oracle/narrow_scale.h"
+#include "oracle/scale.h"
 
 namespace test {
 
-template <class D, class R> D scaled_element(const R& r, int s) {
-  if constexpr (requires(D d) { d.re; })
-    return {oracle::scaled<decltype(D::re)>(r.re, s), oracle::scaled<decltype(D::im)>(r.im, s)};
-  else
-    return oracle::scaled<D>(r, s);
-}
+inline const std::set<int>    scaled_lengths{1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12,  13,
+                                          14, 15, 16, 17, 18, 19, 23, 24, 31, 33, 65, 130, 1000};
+inline const std::vector<int> few_scales{0, 1, 6, 40, -1, -9};
 
-// Values for sweeps: every one of an 8- or 16-bit element, and as many drawn ones of a pair.
-template <class T> std::vector<T> sweep_values(source_of_data& data) {
-  if constexpr (sizeof(T) <= 2 && !requires(T t) { t.re; }) {
-    std::vector<T> v(sizeof(T) == 1 ? 256 : 65536);
-    for (size_t i = 0; i < v.size(); ++i) v[i] = T(i);
-    return v;
-  } else {
-    return data.values<T>(20000);
-  }
-}
-
-// One partner for all values of a sweep: each of the 256 for bytes, else an extreme or a drawn one.
-template <class T> std::vector<T> partners(source_of_data& data) {
-  if constexpr (sizeof(T) == 1) return sweep_values<T>(data);
-  return data.values<T>(5);
-}
-
-template <class D, class Call, class Want>
-void expect_sweep(size_t n, int s, std::vector<D> dst, const Call& call, const Want& want) {
-  std::vector<D> expected(n);
-  for (size_t i = 0; i < n; ++i) expected[i] = want(i);
-  ASSERT_EQ(call(dst.data(), int(n)), tavStatusOk) << "factor " << s;
-  if (const long i = first_difference(dst, expected); i >= 0)
-    FAIL() << "factor " << s << ", element " << i << " of " << n;
-}
-
-inline std::vector<int> factors_between(int low, int high) {
-  std::vector<int> all{std::numeric_limits<int>::min(), -1000, 1000, std::numeric_limits<int>::max()};
+inline std::vector<int> scales_between(int low, int high) {
+  std::vector<int> all{INT_MIN, INT_MIN + 1, -1000, 1000, INT_MAX - 1, INT_MAX};
   for (int s = low; s <= high; ++s) all.push_back(s);
   return all;
 }
+inline std::vector<int> all_scales() { return scales_between(-70, 70); }
 
-inline const std::set<int> narrow_lengths = lengths_around({200}, 70);
-
-// tavsF(src1, src2, dst, len, scaleFactor)
-template <auto* Export, class A, class B, class D, class Exact>
-void check_two_sources_scaled(const std::vector<int>& factors, const Exact& exact) {
-  each_build<Export>([&] {
-    source_of_data data(51);
-    const auto     a = sweep_values<A>(data);
-    for (int s : factors)
-      for (const B& partner : partners<B>(data)) {
-        const std::vector<B> b(a.size(), partner);
-        expect_sweep(
-            a.size(), s, std::vector<D>(a.size()),
-            [&](D* dst, int n) { return call<Export>(a.data(), b.data(), dst, n, s); },
-            [&](size_t i) { return scaled_element<D>(exact(a[i], b[i]), s); });
-        if (testing::Test::HasFatalFailure()) return;
-      }
-  });
-  for (int s : {0, 1, 3, -2})
-    check_layouts<Export, D, A, B>(
-        narrow_lengths, [&](D* dst, int len, const A* a, const B* b) { return call<Export>(a, b, dst, len, s); },
-        [&](std::vector<D>& dst, const std::vector<A>& a, const std::vector<B>& b) {
-          for (size_t i = 0; i < dst.size(); ++i) dst[i] = scaled_element<D>(exact(a[i], b[i]), s);
-          return tavStatusOk;
-        });
+// Integers of every magnitude, so that ties and saturation are frequent at every scale.
+template <class T> T of_any_magnitude(source_of_data& data) {
+  if constexpr (requires(T v) { v.re; })
+    return {of_any_magnitude<decltype(T::re)>(data), of_any_magnitude<decltype(T::im)>(data)};
+  else if constexpr (std::is_floating_point_v<T>)
+    return data.value<T>();
+  else if (data.below(3) == 0)
+    return data.value<T>();
+  else if (data.below(3) == 0)  // few bits set: ties of products
+    return T(T(data.below(2) ? 1 : 3) << data.below(int(sizeof(T)) * 8));
+  else
+    return T(data.value<T>() >> data.below(int(sizeof(T)) * 8));
 }
 
-// tavsF(src, srcDst, len, scaleFactor)
-template <auto* Export, class A, class D, class Exact>
-void check_in_place_scaled(const std::vector<int>& factors, const Exact& exact) {
-  each_build<Export>([&] {
-    source_of_data data(52);
-    const auto     b = sweep_values<D>(data);
-    for (int s : factors)
-      for (const A& partner : partners<A>(data)) {
-        const std::vector<A> a(b.size(), partner);
-        expect_sweep(
-            b.size(), s, b, [&](D* dst, int n) { return call<Export>(a.data(), dst, n, s); },
-            [&](size_t i) { return scaled_element<D>(exact(a[i], b[i]), s); });
-        if (testing::Test::HasFatalFailure()) return;
-      }
-  });
-  for (int s : {0, 1, 3, -2})
-    check_layouts<Export, D, A>(
-        narrow_lengths, [&](D* dst, int len, const A* a) { return call<Export>(a, dst, len, s); },
-        [&](std::vector<D>& dst, const std::vector<A>& a) {
-          for (size_t i = 0; i < dst.size(); ++i) dst[i] = scaled_element<D>(exact(a[i], dst[i]), s);
-          return tavStatusOk;
-        });
+template <class T> std::vector<T> many_of_any_magnitude(source_of_data& data, size_t n) {
+  std::vector<T> v(n);
+  for (T& x : v) x = of_any_magnitude<T>(data);
+  return v;
 }
 
-// tavsF(src1, src2, srcDst, len, scaleFactor)
-template <auto* Export, class A, class D, class Exact>
-void check_accumulated_scaled(const std::vector<int>& factors, const Exact& exact) {
-  each_build<Export>([&] {
-    source_of_data data(53);
-    const auto     a = sweep_values<A>(data);
-    for (int s : factors)
-      for (const A& partner : partners<A>(data)) {
-        const std::vector<A> b(a.size(), partner);
-        const auto           c = data.values<D>(a.size());
-        expect_sweep(
-            a.size(), s, c, [&](D* dst, int n) { return call<Export>(a.data(), b.data(), dst, n, s); },
-            [&](size_t i) { return scaled_element<D>(exact(a[i], b[i], c[i]), s); });
-        if (testing::Test::HasFatalFailure()) return;
-      }
-  });
-  for (int s : {0, 1, 3, -2})
-    check_layouts<Export, D, A, A>(
-        narrow_lengths, [&](D* dst, int len, const A* a, const A* b) { return call<Export>(a, b, dst, len, s); },
-        [&](std::vector<D>& dst, const std::vector<A>& a, const std::vector<A>& b) {
-          for (size_t i = 0; i < dst.size(); ++i) dst[i] = scaled_element<D>(exact(a[i], b[i], dst[i]), s);
-          return tavStatusOk;
-        });
+template <class T> struct part_of { using type = T; };
+template <class T>
+requires requires(T v) { v.re; }
+struct part_of<T> {
+  using type = decltype(T::re);
+};
+
+// Small enough to go through all its values.
+template <class T> inline constexpr bool enumerable = sizeof(T) <= 2 && std::is_integral_v<T>;
+
+template <class T> std::vector<T> every_value() {
+  std::vector<T> all(size_t(1) << (sizeof(T) * 8));
+  for (size_t i = 0; i < all.size(); ++i) all[i] = T(i);
+  return all;
 }
 
-// tavsF(src, val, dst, len, scaleFactor) and tavsF_I(val, srcDst, len, scaleFactor), where exact(element, val)
-template <auto* Export, auto* InPlace, class T, class Exact>
-void check_constant_scaled(const std::vector<int>& factors, const Exact& exact) {
-  source_of_data data(54);
-  const auto     values = sweep_values<T>(data);
-  const auto     sweep  = [&](const auto& call_it, const std::vector<T>& start) {
-    for (int s : factors) {
-      auto constants = partners<T>(data);
-      if constexpr (requires(T t) { t.re; })
-        constants.insert(constants.end(), {{0, 0}, {1, 0}});
-      else
-        constants.insert(constants.end(), {0, 1});
-      for (const T& val : constants) {
-        expect_sweep(
-                 values.size(), s, start, [&](T* dst, int n) { return call_it(val, dst, n, s); },
-                 [&](size_t i) { return scaled_element<T>(exact(values[i], val), s); });
-        if (testing::Test::HasFatalFailure()) return;
-      }
-    }
+// Constants at which functions differ; of bytes all.
+template <class T> std::vector<T> constants() {
+  if constexpr (enumerable<T> && sizeof(T) == 1) return every_value<T>();
+  source_of_data data(3);
+  std::vector<T> all{T{}};
+  const auto     add = [&](auto v) {
+    if constexpr (requires(T x) { x.re; })
+      all.push_back({v, 0}), all.push_back({v, v}), all.push_back({0, v});
+    else
+      all.push_back(v);
   };
-  each_build<Export>([&] {
-    sweep([&](const T& val, T* dst, int n, int s) { return call<Export>(values.data(), val, dst, n, s); },
-          std::vector<T>(values.size()));
-  });
-  each_build<InPlace>(
-      [&] { sweep([](const T& val, T* dst, int n, int s) { return call<InPlace>(val, dst, n, s); }, values); });
-  const T val = data.value<T>();
-  for (int s : {0, 1, 3, -2}) {
-    check_layouts<Export, T, T>(
-        narrow_lengths, [&](T* dst, int len, const T* a) { return call<Export>(a, val, dst, len, s); },
-        [&](std::vector<T>& dst, const std::vector<T>& a) {
-          for (size_t i = 0; i < dst.size(); ++i) dst[i] = scaled_element<T>(exact(a[i], val), s);
-          return tavStatusOk;
-        });
-    check_layouts<InPlace, T>(
-        narrow_lengths, [&](T* dst, int len) { return call<InPlace>(val, dst, len, s); },
-        [&](std::vector<T>& dst) {
-          for (T& v : dst) v = scaled_element<T>(exact(v, val), s);
-          return tavStatusOk;
-        });
+  using part = typename part_of<T>::type;
+  for (part v : {std::numeric_limits<part>::min(), part(std::numeric_limits<part>::min() + 1), part(-1), part(1),
+                 part(2), std::numeric_limits<part>::max()})
+    add(v);
+  for (int i = 0; i < 4; ++i) all.push_back(of_any_magnitude<T>(data));
+  return all;
+}
+
+// The operands of one run. Those behind an enumerable one hold the same value everywhere, another in each run.
+template <class... T> using columns = std::tuple<std::vector<T>...>;
+
+template <class First, class... More> std::vector<columns<First, More...>> operands() {
+  source_of_data                       data(11);
+  std::vector<columns<First, More...>> runs;
+  if constexpr (enumerable<First>) {
+    const auto     firsts   = every_value<First>();
+    constexpr auto partners = sizeof...(More) == 0 ? 1 : sizeof(First) == 1 ? 256 : 5;
+    for (int run = 0; run < partners; ++run) {
+      const auto partner = [&]<class T>(T) { return sizeof(T) == 1 ? T(run) : data.value<T>(); };
+      runs.push_back({firsts, std::vector<More>(firsts.size(), partner(More{}))...});
+    }
+  } else {
+    const size_t n = sizeof(typename part_of<First>::type) <= 2 ? 5000 : 200;
+    runs.push_back({many_of_any_magnitude<First>(data, n), many_of_any_magnitude<More>(data, n)...});
   }
+  return runs;
+}
+
+// One run over arrays of operands, the last of which is dst: `call` makes it, `one` tells what should come of an
+// element.
+template <class D, class... S, class Call, class One>
+void check_run(const columns<S..., D>& run, int s, const Call& call, const One& one) {
+  auto         dst = std::get<sizeof...(S)>(run);
+  const size_t n   = dst.size();
+  [&]<size_t... K>(std::index_sequence<K...>) {
+    ASSERT_EQ(call(dst.data(), int(n), s, std::get<K>(run).data()...), tavStatusOk) << s;
+    for (size_t i = 0; i < n; ++i) {
+      const D want = one(std::get<K>(run)[i]..., std::get<sizeof...(S)>(run)[i], s);
+      if (same(dst[i], want)) continue;
+      FAIL() << "scale factor " << s << ", element " << i << ": " << testing::PrintToString(dst[i]) << ", not "
+             << testing::PrintToString(want);
+    }
+  }
+  (std::index_sequence_for<S...>{});
+}
+
+template <class D, class... S, class Call, class One>
+void check_values(const Call& call, const One& one, const std::vector<int>& scales = all_scales()) {
+  const auto runs = operands<S..., D>();
+  for (int s : scales)
+    for (const auto& run : runs) {
+      check_run<D, S...>(run, s, call, one);
+      if (testing::Test::HasFatalFailure()) return;
+    }
+}
+
+template <auto* Export, class D, class... S, class Call, class One>
+void check_scaled_calls(const Call& call, const One& one, const std::vector<int>& scales = all_scales(),
+                        const std::vector<int>& layout_scales = few_scales) {
+  for (int s : layout_scales) {
+    SCOPED_TRACE(testing::Message() << "scale factor " << s);
+    check_layouts<Export, D, S...>(
+        scaled_lengths, [&](D* dst, int len, const S*... src) { return call(dst, len, s, src...); },
+        [&](std::vector<D>& dst, const std::vector<S>&... src) {
+          for (size_t i = 0; i < dst.size(); ++i) dst[i] = one(src[i]..., dst[i], s);
+          return tavStatusOk;
+        });
+    if (testing::Test::HasFatalFailure()) return;
+  }
+  each_build<Export>([&] { check_values<D, S...>(call, one, scales); });
+}
+
+// With each constant over all factors; with a few of them over the layouts.
+template <auto* Export, class V, class D, class... S, class CallWith, class OneWith>
+void check_constants(const CallWith& call_with, const OneWith& one_with, const std::vector<int>& scales) {
+  const auto all = constants<V>();
+  for (size_t i = 0; i < all.size(); ++i) {
+    SCOPED_TRACE(testing::Message() << "constant " << testing::PrintToString(all[i]));
+    const auto layout_scales = i + 1 == all.size() ? few_scales : std::vector<int>(i < 8, 0);
+    check_scaled_calls<Export, D, S...>(call_with(all[i]), one_with(all[i]), scales, layout_scales);
+    if (testing::Test::HasFatalFailure()) return;
+  }
+}
+
+// The patterns of arguments.
+
+template <auto* Export, class A, class B, class D, class One>
+void check_form(TavStatus (*)(const A*, const B*, D*, int, int), const One& one, const std::vector<int>& scales) {
+  check_scaled_calls<Export, D, A, B>(
+      [](D* dst, int len, int s, const A* a, const B* b) { return call<Export>(a, b, dst, len, s); },
+      [&](A a, B b, D before, int s) {
+        if constexpr (requires { one(a, b, before, s); })
+          return one(a, b, before, s);
+        else
+          return one(a, b, s);
+      },
+      scales);
+}
+
+template <auto* Export, class A, class D, class One>
+void check_form(TavStatus (*)(const A*, D*, int, int), const One& one, const std::vector<int>& scales) {
+  check_scaled_calls<Export, D, A>([](D* dst, int len, int s, const A* a) { return call<Export>(a, dst, len, s); }, one,
+                                   scales);
+}
+
+template <auto* Export, class A, class V, class D, class One>
+requires(!std::is_pointer_v<V>) void check_form(TavStatus (*)(const A*, V, D*, int, int), const One& one,
+                                                const std::vector<int>& scales) {
+  check_constants<Export, V, D, A>(
+      [](V val) { return [val](D* dst, int len, int s, const A* a) { return call<Export>(a, val, dst, len, s); }; },
+      [&](V val) { return [&one, val](A a, D, int s) { return one(a, val, s); }; }, scales);
+}
+
+template <auto* Export, class V, class D, class One>
+requires(!std::is_pointer_v<V>) void check_form(TavStatus (*)(V, D*, int, int), const One& one,
+                                                const std::vector<int>& scales) {
+  check_constants<Export, V, D>(
+      [](V val) { return [val](D* dst, int len, int s) { return call<Export>(val, dst, len, s); }; },
+      [&](V val) { return [&one, val](D before, int s) { return one(before, val, s); }; }, scales);
+}
+
+template <auto* Export, class One> void check_scaled(const One& one, const std::vector<int>& scales = all_scales()) {
+  check_form<Export>(Export, one, scales);
+}
+
+// Runs a definition of real numbers on each part of complex ones.
+template <class T, class One> T by_parts(T a, T b, int s, const One& one) {
+  if constexpr (requires { a.re; })
+    return {one(a.re, b.re, s), one(a.im, b.im, s)};
+  else
+    return one(a, b, s);
 }
 
 }  // namespace test

@@ -2,7 +2,7 @@
 #pragma once
 #include <math.h>
 
-#include "oracle/narrow_scale.h"
+#include "oracle/scale.h"
 #include "tavs.h"
 
 namespace oracle {

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "harness/scaled_forms.h"
+#include "harness/scaled.h"
 
 using namespace test;
 using oracle::exact;

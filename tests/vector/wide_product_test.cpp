@@ -1,7 +1,7 @@
 // Scaled products with results of 32 bits, against exact integers, or against doubles where those define the result.
 #include <math.h>
 
-#include "harness/scaled_forms.h"
+#include "harness/scaled.h"
 
 using namespace test;
 using oracle::exact;

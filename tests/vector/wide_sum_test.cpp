@@ -1,5 +1,5 @@
 // Scaled sums and differences of 32 bits, against exact integers.
-#include "harness/scaled_forms.h"
+#include "harness/scaled.h"
 
 using namespace test;
 using oracle::exact;
