@@ -12,6 +12,7 @@
 #include <benchmark/benchmark.h>
 #include <tavs.h>
 
+#include <cmath>
 #include <functional>
 #include <string>
 #include <vector>
@@ -80,12 +81,8 @@ template <class T> uint64_t outcome(const contender<T>& c, const arrays<T>& x, i
 
 void require_same(const row&, const std::string& contender, bool same);
 
-template <class T> void contest(const row& r, const std::vector<contender<T>>& contenders, call<T> fill = ramp<T>) {
-  if (!wanted(r)) return;
-  const arrays<T> x{static_cast<T*>(pool(0)), static_cast<T*>(pool(1)), static_cast<T*>(pool(2))};
-  const uint64_t  expected = outcome(contenders[0], x, 1003, fill);
-  for (const auto& c : contenders) require_same(r, c.name, outcome(c, x, 1003, fill) == expected);
-
+template <class T>
+void measure(const row& r, const arrays<T>& x, const std::vector<contender<T>>& contenders, call<T> fill) {
   for (const point& p : points_of(r, sizeof(T))) {
     const int          n = int(p.bytes / sizeof(T));
     std::vector<entry> entries;
@@ -99,6 +96,40 @@ template <class T> void contest(const row& r, const std::vector<contender<T>>& c
     fill(x, n);
     measure_point(r, p, n, entries);
   }
+}
+
+template <class T> arrays<T> pooled() {
+  return {static_cast<T*>(pool(0)), static_cast<T*>(pool(1)), static_cast<T*>(pool(2))};
+}
+
+template <class T> void contest(const row& r, const std::vector<contender<T>>& contenders, call<T> fill = ramp<T>) {
+  if (!wanted(r)) return;
+  const arrays<T> x        = pooled<T>();
+  const uint64_t  expected = outcome(contenders[0], x, 1003, fill);
+  for (const auto& c : contenders) require_same(r, c.name, outcome(c, x, 1003, fill) == expected);
+  measure(r, x, contenders, fill);
+}
+
+// A contest whose contenders may differ in last places: their results, of type D, by `tolerance` times their size.
+template <class D, class T>
+void near_contest(const row& r, double tolerance, const std::vector<contender<T>>& contenders, call<T> fill = ramp<T>) {
+  if (!wanted(r)) return;
+  constexpr int   n       = 1003;
+  const arrays<T> x       = pooled<T>();
+  const auto      results = [&](const contender<T>& c) {
+    fill(x, n);
+    c.run(x, n);
+    const D* out = reinterpret_cast<const D*>(x.out);
+    return std::vector<D>(out, out + n);
+  };
+  const std::vector<D> expected = results(contenders[0]);
+  for (const auto& c : contenders) {
+    const std::vector<D> got  = results(c);
+    bool                 same = true;
+    for (int i = 0; i < n; ++i) same &= std::abs(double(got[i]) - expected[i]) <= tolerance * std::abs(expected[i]);
+    require_same(r, c.name, same);
+  }
+  measure(r, x, contenders, fill);
 }
 
 struct family {

@@ -17,13 +17,21 @@
 #define TAVS_H
 
 #include "tavs/arithmetic.h"
+#include "tavs/companding.h"
+#include "tavs/complex.h"
 #include "tavs/contexts.h"
+#include "tavs/convert.h"
 #include "tavs/division.h"
+#include "tavs/formats.h"
 #include "tavs/logic.h"
 #include "tavs/memory.h"
 #include "tavs/move.h"
+#include "tavs/normalize.h"
+#include "tavs/phase.h"
+#include "tavs/polar.h"
 #include "tavs/scaled.h"
 #include "tavs/status.h"
+#include "tavs/threshold.h"
 #include "tavs/types.h"
 
 #endif

@@ -16,7 +16,7 @@ extern "C" {
  *
  *  The functions whose name ends in Sfs take a scale factor s as their last argument. They form the exact result r of
  *  the operation, in as many bits as it needs, and deliver r * 2^-s: rounded to nearest, ties to the even neighbour,
- * and then saturated to the destination's type. A positive factor scales down, a negative one up. Any factor is valid.
+ *  and then saturated to the destination's type. A positive factor scales down, a negative one up. Any factor is valid.
  *
  *  | type | r     | s   | r * 2^-s | result                         |
  *  |------|-------|-----|----------|--------------------------------|

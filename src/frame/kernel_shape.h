@@ -93,8 +93,11 @@ TAV_INLINE void rounds_and_tail(Op& op, D* dst, size_t head, size_t rounds, size
 template <class Op, class... S>
 inline constexpr bool may_stream = Op::shape.stream_above != never && !(std::is_same_v<S, self> || ...);
 
-template <class Op, class D, class... S> TavStatus elementwise(Op op, D* dst, size_t len, S... src) {
+// The operation comes by reference: for a tail call gcc would build it in the caller's own arguments, where the
+// registers that it holds may lie unaligned in 32-bit code.
+template <class Op, class D, class... S> TavStatus elementwise(const Op& given, D* dst, size_t len, S... src) {
   static_assert(Op::shape.vector_from >= lanes<D> - 1, "the head must fit into the shortest array that has one");
+  Op op = given;
   if (len < size_t(Op::shape.vector_from)) {
     scalar_loop(op, dst, 0, len, src...);
     return status_of(op);

@@ -96,6 +96,7 @@ template <access A, int N, class T> TAV_INLINE group<T, N> load(const T* p) {
     return from_bits<T>(load_bits<A>(p));
   } else {
     group<T, N> g;
+#pragma GCC unroll 8
     for (int k = 0; k < bytes / 16; ++k) g.r[k] = from_bits<T>(load_bits<A>(p + k * lanes<T>));
     return g;
   }
@@ -104,6 +105,7 @@ template <access A, int N, class T> TAV_INLINE group<T, N> load(const T* p) {
 template <access A, class T, class R> TAV_INLINE void store(T* p, R v) { store_bits<A>(p, as_bits(v)); }
 
 template <access A, class T, class R, int K> TAV_INLINE void store(T* p, several<R, K> v) {
+#pragma GCC unroll 8
   for (int k = 0; k < K; ++k) store_bits<A>(p + k * lanes<T>, as_bits(v.r[k]));
 }
 

@@ -102,7 +102,8 @@ template <class T> TavStatus divided_by_constant(const T* src, T val, T* dst, in
 
 static TavStatus constant_divided_16u(const Tav16u* src, Tav16u val, Tav16u* dst, int len) {
   if (const TavStatus bad = check_vector(len, src, dst)) return bad;
-  return with_quotients<Tav16u>(0, [&](auto op) { return elementwise(with_dividend(op, val), dst, size_t(len), src); });
+  return with_quotients<Tav16u>(
+      0, [&](const auto& op) { return elementwise(with_dividend(op, val), dst, size_t(len), src); });
 }
 
 static TavStatus constant_divided_32f(const Tav32f* src, Tav32f val, Tav32f* dst, int len) {

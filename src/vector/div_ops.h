@@ -217,7 +217,7 @@ template <class T, class Go> TAV_INLINE TavStatus with_quotients(int s, const Go
 // dst = src2 / src1
 template <class T> struct quotient_of : types<T, T, T> {
   template <class... S> static TavStatus run(int s, T* to, size_t len, S... src) {
-    return with_quotients<T>(s, [&](auto op) { return elementwise(op, to, len, src...); });
+    return with_quotients<T>(s, [&](const auto& op) { return elementwise(op, to, len, src...); });
   }
 };
 

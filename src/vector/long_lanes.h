@@ -3,7 +3,7 @@
 // Rounding and scaling work on magnitudes, which have 64 bits without a sign: all three ways round them alike on both
 // sides of zero.
 #pragma once
-#include "frame/registers.h"
+#include "vector/round_mode.h"
 
 namespace tav::TAV_VARIANT {
 
@@ -51,8 +51,6 @@ struct unsigned_long {
 };
 
 TAV_INLINE __m128i with_sign(__m128i v, __m128i signs) { return _mm_sub_epi64(_mm_xor_si128(v, signs), signs); }
-
-enum class rounding { toward_zero, ties_to_even, ties_away };
 
 struct long_unscaled {
   template <class T> __m128i of(__m128i v) const { return v; }

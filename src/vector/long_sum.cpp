@@ -44,16 +44,12 @@ template <class T, class With> struct each_long_scale {
 struct add_64s : types<Tav64s, Tav64s, Tav64s> {
   static TavStatus run(int s, Tav64s* dst, size_t len, const Tav64s* src1, const Tav64s* src2) {
     constexpr scale_range range{.zero_above = 63, .sign_from = -63};
-    const auto            with = [&](auto scale) {
-      return elementwise(long_sum<signed_long, decltype(scale)>{scale}, dst, len, src1, src2);
+    const auto            with = [&]<class Scale>(const Scale& scale) {
+      return elementwise(long_sum<signed_long, Scale>{scale}, dst, len, src1, src2);
     };
     return with_scale<range>(s, dst, len, each_long_scale<signed_long, decltype(with)>{with, rounding::ties_to_even});
   }
 };
-
-TAV_INLINE rounding rounding_of(int mode) {  // every number is a mode
-  return mode == 0 ? rounding::toward_zero : mode == 1 ? rounding::ties_to_even : rounding::ties_away;
-}
 
 // The length is unsigned, here and in what the function ends in.
 template <class T, class D = typename T::type>
@@ -61,8 +57,8 @@ TavStatus long_add_c(const D* src, D val, D* dst, unsigned len, int scaleFactor,
   if (const TavStatus bad = check_unsigned_length(len, src, dst)) return bad;
   if (val == 0 && scaleFactor == 0) return copied(dst, len, src);
   constexpr scale_range range{.zero_above = 64, .sign_from = -T::top_bits};
-  const auto            with = [&](auto scale) {
-    return elementwise(long_sum_c<T, decltype(scale)>{{scale}, val, repeated(val)}, dst, len, src);
+  const auto            with = [&]<class Scale>(const Scale& scale) {
+    return elementwise(long_sum_c<T, Scale>{{scale}, val, repeated(val)}, dst, len, src);
   };
   return with_scale<range>(scaleFactor, dst, len, each_long_scale<T, decltype(with)>{with, rounding_of(roundMode)});
 }

@@ -27,8 +27,8 @@ template <class Op, scale_range Range> struct scaled : Op {
 
  private:
   template <class... S> static TavStatus start(const Op& op, int s, dst* to, size_t len, const S*... src) {
-    const auto with = [&](auto scale) {
-      return elementwise(typename Op::template kernel<Op, decltype(scale)>{op, scale}, to, len, src...);
+    const auto with = [&]<class Scale>(const Scale& scale) {
+      return elementwise(typename Op::template kernel<Op, Scale>{op, scale}, to, len, src...);
     };
     return with_scale<Range>(s, to, len, typename Op::template scales<Op, decltype(with)>{with});
   }

@@ -73,7 +73,7 @@ template <class With> struct each_multiplier {
 struct mul_32s : types<Tav32s, Tav32s, Tav32s> {
   template <class S> static TavStatus run(int s, Tav32s* dst, size_t len, const Tav32s* src1, S src2) {
     const round_to_nearest scope;
-    const auto             with = [&](auto kernel) { return elementwise(kernel, dst, len, src1, source(dst, src2)); };
+    const auto with = [&](const auto& kernel) { return elementwise(kernel, dst, len, src1, source(dst, src2)); };
     return with_scale<products>(s, dst, len, each_multiplier<decltype(with)>{with});
   }
 };

@@ -3,9 +3,9 @@
 //   check_scaled<&::tavsAdd_32s_Sfs>([](Tav32s a, Tav32s b, int s) { ... });
 //
 // Each function runs over the layouts with a few scale factors, then over all factors that make a difference with
-// values that do: bytes at all pairs, 16-bit elements at all values with a few partners, others at values drawn. `one`
-// takes what the function reads: the sources, the constant, the former element of a destination that is a source too
-// (behind the others), and the scale factor.
+// values that do; on demand over every value: bytes at all pairs, 16-bit elements with a few partners. `one` takes what
+// the function reads: the sources, the constant, the former element of a destination that is a source too (behind the
+// others), and the scale factor.
 #pragma once
 #include <limits.h>
 
@@ -25,6 +25,12 @@ inline std::vector<int> scales_between(int low, int high) {
   return all;
 }
 inline std::vector<int> all_scales() { return scales_between(-70, 70); }
+
+// What a function is swept over.
+struct sweep {
+  std::vector<int> scales      = all_scales();
+  bool             every_value = false;  // of elements up to 16 bits, else values drawn
+};
 
 // Integers of every magnitude, so that ties and saturation are frequent at every scale.
 template <class T> T of_any_magnitude(source_of_data& data) {
@@ -56,15 +62,14 @@ struct part_of<T> {
 // Small enough to go through all its values.
 template <class T> inline constexpr bool enumerable = sizeof(T) <= 2 && std::is_integral_v<T>;
 
-template <class T> std::vector<T> every_value() {
+template <class T> std::vector<T> all_values() {
   std::vector<T> all(size_t(1) << (sizeof(T) * 8));
   for (size_t i = 0; i < all.size(); ++i) all[i] = T(i);
   return all;
 }
 
-// Constants at which functions differ; of bytes all.
+// Constants at which functions differ.
 template <class T> std::vector<T> constants() {
-  if constexpr (enumerable<T> && sizeof(T) == 1) return every_value<T>();
   source_of_data data(3);
   std::vector<T> all{T{}};
   const auto     add = [&](auto v) {
@@ -84,20 +89,21 @@ template <class T> std::vector<T> constants() {
 // The operands of one run. Those behind an enumerable one hold the same value everywhere, another in each run.
 template <class... T> using columns = std::tuple<std::vector<T>...>;
 
-template <class First, class... More> std::vector<columns<First, More...>> operands() {
+template <class First, class... More> std::vector<columns<First, More...>> operands(bool every_value) {
   source_of_data                       data(11);
   std::vector<columns<First, More...>> runs;
-  if constexpr (enumerable<First>) {
-    const auto     firsts   = every_value<First>();
-    constexpr auto partners = sizeof...(More) == 0 ? 1 : sizeof(First) == 1 ? 256 : 5;
-    for (int run = 0; run < partners; ++run) {
-      const auto partner = [&]<class T>(T) { return sizeof(T) == 1 ? T(run) : data.value<T>(); };
-      runs.push_back({firsts, std::vector<More>(firsts.size(), partner(More{}))...});
+  if constexpr (enumerable<First>)
+    if (every_value) {
+      const auto     firsts   = all_values<First>();
+      constexpr auto partners = sizeof...(More) == 0 ? 1 : sizeof(First) == 1 ? 256 : 5;
+      for (int run = 0; run < partners; ++run) {
+        const auto partner = [&]<class T>(T) { return sizeof(T) == 1 ? T(run) : data.value<T>(); };
+        runs.push_back({firsts, std::vector<More>(firsts.size(), partner(More{}))...});
+      }
+      return runs;
     }
-  } else {
-    const size_t n = sizeof(typename part_of<First>::type) <= 2 ? 5000 : 200;
-    runs.push_back({many_of_any_magnitude<First>(data, n), many_of_any_magnitude<More>(data, n)...});
-  }
+  const size_t n = every_value ? 5000 : 200;
+  runs.push_back({many_of_any_magnitude<First>(data, n), many_of_any_magnitude<More>(data, n)...});
   return runs;
 }
 
@@ -120,9 +126,9 @@ void check_run(const columns<S..., D>& run, int s, const Call& call, const One& 
 }
 
 template <class D, class... S, class Call, class One>
-void check_values(const Call& call, const One& one, const std::vector<int>& scales = all_scales()) {
-  const auto runs = operands<S..., D>();
-  for (int s : scales)
+void check_values(const Call& call, const One& one, const sweep& over = {}) {
+  const auto runs = operands<S..., D>(over.every_value);
+  for (int s : over.scales)
     for (const auto& run : runs) {
       check_run<D, S...>(run, s, call, one);
       if (testing::Test::HasFatalFailure()) return;
@@ -130,7 +136,7 @@ void check_values(const Call& call, const One& one, const std::vector<int>& scal
 }
 
 template <auto* Export, class D, class... S, class Call, class One>
-void check_scaled_calls(const Call& call, const One& one, const std::vector<int>& scales = all_scales(),
+void check_scaled_calls(const Call& call, const One& one, const sweep& over = {},
                         const std::vector<int>& layout_scales = few_scales) {
   for (int s : layout_scales) {
     SCOPED_TRACE(testing::Message() << "scale factor " << s);
@@ -142,17 +148,19 @@ void check_scaled_calls(const Call& call, const One& one, const std::vector<int>
         });
     if (testing::Test::HasFatalFailure()) return;
   }
-  each_build<Export>([&] { check_values<D, S...>(call, one, scales); });
+  each_build<Export>([&] { check_values<D, S...>(call, one, over); });
 }
 
 // With each constant over all factors; with a few of them over the layouts.
 template <auto* Export, class V, class D, class... S, class CallWith, class OneWith>
-void check_constants(const CallWith& call_with, const OneWith& one_with, const std::vector<int>& scales) {
-  const auto all = constants<V>();
+void check_constants(const CallWith& call_with, const OneWith& one_with, const sweep& over) {
+  auto all = constants<V>();
+  if constexpr (enumerable<V> && sizeof(V) == 1)
+    if (over.every_value) all = all_values<V>();
   for (size_t i = 0; i < all.size(); ++i) {
     SCOPED_TRACE(testing::Message() << "constant " << testing::PrintToString(all[i]));
     const auto layout_scales = i + 1 == all.size() ? few_scales : std::vector<int>(i < 8, 0);
-    check_scaled_calls<Export, D, S...>(call_with(all[i]), one_with(all[i]), scales, layout_scales);
+    check_scaled_calls<Export, D, S...>(call_with(all[i]), one_with(all[i]), over, layout_scales);
     if (testing::Test::HasFatalFailure()) return;
   }
 }
@@ -160,7 +168,7 @@ void check_constants(const CallWith& call_with, const OneWith& one_with, const s
 // The patterns of arguments.
 
 template <auto* Export, class A, class B, class D, class One>
-void check_form(TavStatus (*)(const A*, const B*, D*, int, int), const One& one, const std::vector<int>& scales) {
+void check_form(TavStatus (*)(const A*, const B*, D*, int, int), const One& one, const sweep& over) {
   check_scaled_calls<Export, D, A, B>(
       [](D* dst, int len, int s, const A* a, const B* b) { return call<Export>(a, b, dst, len, s); },
       [&](A a, B b, D before, int s) {
@@ -169,33 +177,32 @@ void check_form(TavStatus (*)(const A*, const B*, D*, int, int), const One& one,
         else
           return one(a, b, s);
       },
-      scales);
+      over);
 }
 
 template <auto* Export, class A, class D, class One>
-void check_form(TavStatus (*)(const A*, D*, int, int), const One& one, const std::vector<int>& scales) {
+void check_form(TavStatus (*)(const A*, D*, int, int), const One& one, const sweep& over) {
   check_scaled_calls<Export, D, A>([](D* dst, int len, int s, const A* a) { return call<Export>(a, dst, len, s); }, one,
-                                   scales);
+                                   over);
 }
 
 template <auto* Export, class A, class V, class D, class One>
 requires(!std::is_pointer_v<V>) void check_form(TavStatus (*)(const A*, V, D*, int, int), const One& one,
-                                                const std::vector<int>& scales) {
+                                                const sweep& over) {
   check_constants<Export, V, D, A>(
       [](V val) { return [val](D* dst, int len, int s, const A* a) { return call<Export>(a, val, dst, len, s); }; },
-      [&](V val) { return [&one, val](A a, D, int s) { return one(a, val, s); }; }, scales);
+      [&](V val) { return [&one, val](A a, D, int s) { return one(a, val, s); }; }, over);
 }
 
 template <auto* Export, class V, class D, class One>
-requires(!std::is_pointer_v<V>) void check_form(TavStatus (*)(V, D*, int, int), const One& one,
-                                                const std::vector<int>& scales) {
+requires(!std::is_pointer_v<V>) void check_form(TavStatus (*)(V, D*, int, int), const One& one, const sweep& over) {
   check_constants<Export, V, D>(
       [](V val) { return [val](D* dst, int len, int s) { return call<Export>(val, dst, len, s); }; },
-      [&](V val) { return [&one, val](D before, int s) { return one(before, val, s); }; }, scales);
+      [&](V val) { return [&one, val](D before, int s) { return one(before, val, s); }; }, over);
 }
 
-template <auto* Export, class One> void check_scaled(const One& one, const std::vector<int>& scales = all_scales()) {
-  check_form<Export>(Export, one, scales);
+template <auto* Export, class One> void check_scaled(const One& one, const sweep& over = {}) {
+  check_form<Export>(Export, one, over);
 }
 
 // Runs a definition of real numbers on each part of complex ones.

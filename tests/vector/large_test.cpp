@@ -1,49 +1,16 @@
-// Arrays beyond 4 GiB, where sizes have 64 bits: all but the last page of an array lies over one small piece of memory.
-#include <gtest/gtest.h>
-#include <string.h>
-#include <sys/mman.h>
-#include <unistd.h>
-
+// Arrays beyond 4 GiB, where sizes have 64 bits.
 #include "harness/builds.h"
+#include "harness/long_array.h"
 
 using namespace test;
 
 namespace {
 
-constexpr uint64_t repeated = uint64_t(4) << 30, piece = 4 << 20, last_page = 4096;
-
-class long_array {
- public:
-  long_array() {
-    const int file = memfd_create("long_array", 0);
-    if (file < 0 || ftruncate(file, piece) != 0) return;
-    void* const all = mmap(nullptr, size_t(repeated + last_page), PROT_READ | PROT_WRITE,
-                           MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-    if (all == MAP_FAILED) return;
-    begin_ = static_cast<char*>(all);
-    for (uint64_t at = 0; at < repeated; at += piece)
-      if (mmap(begin_ + at, piece, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_FIXED, file, 0) == MAP_FAILED) abort();
-    close(file);
-    memset(begin_, 0x11, piece);
-    memset(last(), 0x11, last_page);
-  }
-  ~long_array() {
-    if (begin_) munmap(begin_, size_t(repeated + last_page));
-  }
-
-  bool  ready() const { return begin_ != nullptr; }
-  void* data() const { return begin_; }
-  char* last() const { return begin_ + size_t(repeated); }  // the first byte beyond 4 GiB
-
- private:
-  char* begin_ = nullptr;
-};
-
 TEST(Large, ReachesBeyond4GiB) {
   if (sizeof(size_t) == 4) GTEST_SKIP() << "such an array does not fit here";
   const long_array a, b;
   ASSERT_TRUE(a.ready() && b.ready());
-  constexpr int len    = int(repeated / 8) + 1;
+  constexpr int len    = int(long_array::repeated / 8) + 1;
   const auto    beyond = [](const long_array& x) { return Tav64u(*reinterpret_cast<const Tav64u*>(x.last())); };
 
   EXPECT_EQ(call<&::tavsSet_64s>(Tav64s(42), static_cast<Tav64s*>(a.data()), len), tavStatusOk);

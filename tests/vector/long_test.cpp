@@ -114,7 +114,7 @@ TEST(LongProduct, MulC64f64s) {
        {1.0, -1.0, 0.5, 3.25, 1e-3, 1e18, -9.3e18, 1e300, 5e-324, -5e-324, 0x1.fffffffffffffp1023, 0.0, -0.0})
     check_values<Tav64s>(
         [&](Tav64s* dst, int len, int s) { return call<&::tavsMulC_64f64s_ISfs>(val, dst, unsigned(len), s); },
-        [&](Tav64s a, int s) { return times_double(a, val, s); }, scales);
+        [&](Tav64s a, int s) { return times_double(a, val, s); }, {scales});
 }
 
 TEST(LongProduct, ByConstantsWithoutAValue) {

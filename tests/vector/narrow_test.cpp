@@ -26,15 +26,15 @@ const auto product = [](auto a, auto b, int s) {
     return result<decltype(b)>(int64_t(a) * b, s);
 };
 
-const std::vector<int> byte_scales = scales_between(-10, 18), word_scales = scales_between(-18, 35);
+const sweep all_bytes{scales_between(-10, 18), true}, all_words{scales_between(-18, 35), true};
 
 template <auto* Apart, auto* InPlace, class One> void check_bytes(const One& one) {
-  check_scaled<Apart>(one, byte_scales);
-  check_scaled<InPlace>(one, byte_scales);
+  check_scaled<Apart>(one, all_bytes);
+  check_scaled<InPlace>(one, all_bytes);
 }
 template <auto* Apart, auto* InPlace, class One> void check_words(const One& one) {
-  check_scaled<Apart>(one, word_scales);
-  check_scaled<InPlace>(one, word_scales);
+  check_scaled<Apart>(one, all_words);
+  check_scaled<InPlace>(one, all_words);
 }
 
 TEST(NarrowSum, Add) {
@@ -77,7 +77,7 @@ TEST(NarrowProduct, Mul) {
   check_words<&::tavsMul_16s_Sfs, &::tavsMul_16s_ISfs>(product);
   check_words<&::tavsMul_16u_Sfs, &::tavsMul_16u_ISfs>(product);
   check_words<&::tavsMul_16sc_Sfs, &::tavsMul_16sc_ISfs>(product);
-  check_scaled<&::tavsMul_16u16s_Sfs>(product, word_scales);
+  check_scaled<&::tavsMul_16u16s_Sfs>(product, all_words);
 }
 
 TEST(NarrowProduct, MulC) {
@@ -89,7 +89,7 @@ TEST(NarrowProduct, MulC) {
 
 TEST(NarrowProduct, AddProduct) {
   check_scaled<&::tavsAddProduct_16s_Sfs>(
-      [](int64_t a, int64_t b, int64_t c, int s) { return result<Tav16s>(a * b + c, s); }, word_scales);
+      [](int64_t a, int64_t b, int64_t c, int s) { return result<Tav16s>(a * b + c, s); }, all_words);
 }
 
 TEST(NarrowProduct, CornersOfComplexNumbers) {
@@ -99,7 +99,7 @@ TEST(NarrowProduct, CornersOfComplexNumbers) {
     for (Tav16s q : corners)
       for (Tav16s r : corners)
         for (Tav16s t : corners) a.push_back({p, q}), b.push_back({r, t});
-  for (int s : word_scales) {
+  for (int s : all_words.scales) {
     std::vector<Tav16sc> dst(a.size());
     ASSERT_EQ(call<&::tavsMul_16sc_Sfs>(a.data(), b.data(), dst.data(), int(a.size()), s), tavStatusOk);
     for (size_t i = 0; i < a.size(); ++i) ASSERT_TRUE(same(dst[i], product(a[i], b[i], s))) << s;

@@ -1,36 +1,16 @@
-// tavsMulC_64s_ISfs, tavsMulC_64f64s_ISfs: products with integers of 64 bits on the extended-precision unit, whose 64
-// bits of significand hold every element. A product is rounded to that precision first, and to an integer then.
+// tavsMulC_64s_ISfs, tavsMulC_64f64s_ISfs: products with integers of 64 bits. A product is rounded to extended
+// precision first, and to an integer then.
 #include "frame/bind.h"
 #include "frame/rounding.h"
+#include "vector/extended.h"
 #include "vector/forms.h"
 
 namespace tav::TAV_VARIANT {
-
-using extended = long double;
 
 // Factors past these change nothing more: every product but zero is out of range by then, or rounds to zero. The
 // scaled constant stays finite, so that an element of zero stays zero.
 template <class T> constexpr int scale_limit         = 130;
 template <> constexpr int        scale_limit<Tav64f> = 1300;
-
-TAV_INLINE extended extended_power_of_two(int n) {
-  const struct {
-    uint64_t significand;
-    uint16_t exponent;
-  } parts{uint64_t(1) << 63, uint16_t(16383 + n)};
-  extended power = 0;
-  __builtin_memcpy(&power, &parts, 10);
-  return power;
-}
-
-// To the nearest integer. Of a NaN, and below the range, the unit makes the lowest one.
-TAV_INLINE Tav64s saturated(extended product) {
-  constexpr extended highest = extended(0x7FFFFFFFFFFFFFFF);
-  if (product > highest) product = highest;
-  Tav64s result;
-  __asm__("fistpll %0" : "=m"(result) : "t"(product) : "st");
-  return result;
-}
 
 // The length is unsigned, here and in what the function ends in.
 template <class T> TavStatus extended_mul_c(T val, Tav64s* srcDst, unsigned len, int scaleFactor) {
