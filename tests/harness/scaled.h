@@ -160,7 +160,9 @@ void check_constants(const CallWith& call_with, const OneWith& one_with, const s
   for (size_t i = 0; i < all.size(); ++i) {
     SCOPED_TRACE(testing::Message() << "constant " << testing::PrintToString(all[i]));
     const auto layout_scales = i + 1 == all.size() ? few_scales : std::vector<int>(i < 8, 0);
-    check_scaled_calls<Export, D, S...>(call_with(all[i]), one_with(all[i]), over, layout_scales);
+    auto       values        = over;
+    values.every_value &= sizeof(V) == 1 || i % 4 == 0;  // of words it takes long
+    check_scaled_calls<Export, D, S...>(call_with(all[i]), one_with(all[i]), values, layout_scales);
     if (testing::Test::HasFatalFailure()) return;
   }
 }
