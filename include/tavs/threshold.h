@@ -48,6 +48,21 @@ TavStatus tavsThreshold_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f leve
 TavStatus tavsThreshold_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level, int relOp);
 TavStatus tavsThreshold_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level, int relOp);
 TavStatus tavsThreshold_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level, int relOp);
+/** @} */
+
+/** @name tavsThreshold, side by argument, in place
+ *  @{ */
+/**
+ * The same in place, as tavsThreshold_16s() and its kin.
+ *
+ * @param srcDst source and destination, @p len elements.
+ * @param len    number of elements, at least 1.
+ * @param level  the level; of complex elements that of the magnitude, not negative.
+ * @param relOp  0 (less) or 4 (greater).
+ * @return #tavStatusOk; #tavStatusNullPointer if @p srcDst is null; #tavStatusBadSize if @p len is below 1;
+ *         #tavStatusBadArgument if @p relOp is neither 0 nor 4; #tavStatusNegativeLevel if elements are complex and
+ *         @p level is below 0.
+ */
 TavStatus tavsThreshold_16s_I(Tav16s* srcDst, int len, Tav16s level, int relOp);
 TavStatus tavsThreshold_32f_I(Tav32f* srcDst, int len, Tav32f level, int relOp);
 TavStatus tavsThreshold_64f_I(Tav64f* srcDst, int len, Tav64f level, int relOp);
@@ -71,14 +86,26 @@ TavStatus tavsThreshold_LT_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s l
 TavStatus tavsThreshold_LT_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
 TavStatus tavsThreshold_LT_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
 TavStatus tavsThreshold_LT_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
-TavStatus tavsThreshold_LT_16s_I(Tav16s* srcDst, int len, Tav16s level);
-TavStatus tavsThreshold_LT_32s_I(Tav32s* srcDst, int len, Tav32s level);
-TavStatus tavsThreshold_LT_32f_I(Tav32f* srcDst, int len, Tav32f level);
-TavStatus tavsThreshold_LT_64f_I(Tav64f* srcDst, int len, Tav64f level);
 TavStatus tavsThreshold_GT_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level);
 TavStatus tavsThreshold_GT_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
 TavStatus tavsThreshold_GT_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
 TavStatus tavsThreshold_GT_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+/** @} */
+
+/** @name tavsThreshold_LT, tavsThreshold_GT, in place
+ *  @{ */
+/**
+ * The same in place, as tavsThreshold_LT_16s() and its kin.
+ *
+ * @param srcDst source and destination, @p len elements.
+ * @param len    number of elements, at least 1.
+ * @param level  the level, of any sign.
+ * @return #tavStatusOk; #tavStatusNullPointer if @p srcDst is null; #tavStatusBadSize if @p len is below 1.
+ */
+TavStatus tavsThreshold_LT_16s_I(Tav16s* srcDst, int len, Tav16s level);
+TavStatus tavsThreshold_LT_32s_I(Tav32s* srcDst, int len, Tav32s level);
+TavStatus tavsThreshold_LT_32f_I(Tav32f* srcDst, int len, Tav32f level);
+TavStatus tavsThreshold_LT_64f_I(Tav64f* srcDst, int len, Tav64f level);
 TavStatus tavsThreshold_GT_16s_I(Tav16s* srcDst, int len, Tav16s level);
 TavStatus tavsThreshold_GT_32s_I(Tav32s* srcDst, int len, Tav32s level);
 TavStatus tavsThreshold_GT_32f_I(Tav32f* srcDst, int len, Tav32f level);
@@ -102,12 +129,25 @@ TavStatus tavsThreshold_GT_64f_I(Tav64f* srcDst, int len, Tav64f level);
 TavStatus tavsThreshold_LT_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level);
 TavStatus tavsThreshold_LT_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level);
 TavStatus tavsThreshold_LT_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level);
-TavStatus tavsThreshold_LT_16sc_I(Tav16sc* srcDst, int len, Tav16s level);
-TavStatus tavsThreshold_LT_32fc_I(Tav32fc* srcDst, int len, Tav32f level);
-TavStatus tavsThreshold_LT_64fc_I(Tav64fc* srcDst, int len, Tav64f level);
 TavStatus tavsThreshold_GT_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level);
 TavStatus tavsThreshold_GT_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level);
 TavStatus tavsThreshold_GT_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level);
+/** @} */
+
+/** @name tavsThreshold_LT, tavsThreshold_GT, complex, in place
+ *  @{ */
+/**
+ * The same in place, as tavsThreshold_LT_16sc() and its kin.
+ *
+ * @param srcDst source and destination, @p len elements.
+ * @param len    number of elements, at least 1.
+ * @param level  the level of the magnitudes, not negative.
+ * @return #tavStatusOk; #tavStatusNullPointer if @p srcDst is null; #tavStatusBadSize if @p len is below 1;
+ *         #tavStatusNegativeLevel if @p level is below 0.
+ */
+TavStatus tavsThreshold_LT_16sc_I(Tav16sc* srcDst, int len, Tav16s level);
+TavStatus tavsThreshold_LT_32fc_I(Tav32fc* srcDst, int len, Tav32f level);
+TavStatus tavsThreshold_LT_64fc_I(Tav64fc* srcDst, int len, Tav64f level);
 TavStatus tavsThreshold_GT_16sc_I(Tav16sc* srcDst, int len, Tav16s level);
 TavStatus tavsThreshold_GT_32fc_I(Tav32fc* srcDst, int len, Tav32f level);
 TavStatus tavsThreshold_GT_64fc_I(Tav64fc* srcDst, int len, Tav64f level);
@@ -132,18 +172,32 @@ TavStatus tavsThreshold_LTVal_64f(const Tav64f* src, Tav64f* dst, int len, Tav64
 TavStatus tavsThreshold_LTVal_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level, Tav16sc value);
 TavStatus tavsThreshold_LTVal_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level, Tav32fc value);
 TavStatus tavsThreshold_LTVal_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level, Tav64fc value);
-TavStatus tavsThreshold_LTVal_16s_I(Tav16s* srcDst, int len, Tav16s level, Tav16s value);
-TavStatus tavsThreshold_LTVal_32f_I(Tav32f* srcDst, int len, Tav32f level, Tav32f value);
-TavStatus tavsThreshold_LTVal_64f_I(Tav64f* srcDst, int len, Tav64f level, Tav64f value);
-TavStatus tavsThreshold_LTVal_16sc_I(Tav16sc* srcDst, int len, Tav16s level, Tav16sc value);
-TavStatus tavsThreshold_LTVal_32fc_I(Tav32fc* srcDst, int len, Tav32f level, Tav32fc value);
-TavStatus tavsThreshold_LTVal_64fc_I(Tav64fc* srcDst, int len, Tav64f level, Tav64fc value);
 TavStatus tavsThreshold_GTVal_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level, Tav16s value);
 TavStatus tavsThreshold_GTVal_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level, Tav32f value);
 TavStatus tavsThreshold_GTVal_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level, Tav64f value);
 TavStatus tavsThreshold_GTVal_16sc(const Tav16sc* src, Tav16sc* dst, int len, Tav16s level, Tav16sc value);
 TavStatus tavsThreshold_GTVal_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level, Tav32fc value);
 TavStatus tavsThreshold_GTVal_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level, Tav64fc value);
+/** @} */
+
+/** @name tavsThreshold_LTVal, tavsThreshold_GTVal, in place
+ *  @{ */
+/**
+ * The same in place, as tavsThreshold_LTVal_16s() and its kin.
+ *
+ * @param srcDst source and destination, @p len elements.
+ * @param len    number of elements, at least 1.
+ * @param level  the level; of complex elements that of the magnitude, not negative.
+ * @param value  what replaces an element.
+ * @return #tavStatusOk; #tavStatusNullPointer if @p srcDst is null; #tavStatusBadSize if @p len is below 1;
+ *         #tavStatusNegativeLevel if elements are complex and @p level is below 0.
+ */
+TavStatus tavsThreshold_LTVal_16s_I(Tav16s* srcDst, int len, Tav16s level, Tav16s value);
+TavStatus tavsThreshold_LTVal_32f_I(Tav32f* srcDst, int len, Tav32f level, Tav32f value);
+TavStatus tavsThreshold_LTVal_64f_I(Tav64f* srcDst, int len, Tav64f level, Tav64f value);
+TavStatus tavsThreshold_LTVal_16sc_I(Tav16sc* srcDst, int len, Tav16s level, Tav16sc value);
+TavStatus tavsThreshold_LTVal_32fc_I(Tav32fc* srcDst, int len, Tav32f level, Tav32fc value);
+TavStatus tavsThreshold_LTVal_64fc_I(Tav64fc* srcDst, int len, Tav64f level, Tav64fc value);
 TavStatus tavsThreshold_GTVal_16s_I(Tav16s* srcDst, int len, Tav16s level, Tav16s value);
 TavStatus tavsThreshold_GTVal_32f_I(Tav32f* srcDst, int len, Tav32f level, Tav32f value);
 TavStatus tavsThreshold_GTVal_64f_I(Tav64f* srcDst, int len, Tav64f level, Tav64f value);
@@ -176,6 +230,22 @@ TavStatus tavsThreshold_LTValGTVal_32f(const Tav32f* src, Tav32f* dst, int len, 
                                        Tav32f levelGT, Tav32f valueGT);
 TavStatus tavsThreshold_LTValGTVal_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f levelLT, Tav64f valueLT,
                                        Tav64f levelGT, Tav64f valueGT);
+/** @} */
+
+/** @name tavsThreshold_LTValGTVal, in place
+ *  @{ */
+/**
+ * The same in place, as tavsThreshold_LTValGTVal_16s() and its kin.
+ *
+ * @param srcDst  source and destination, @p len elements.
+ * @param len     number of elements, at least 1.
+ * @param levelLT the level below which elements are replaced.
+ * @param valueLT what replaces them.
+ * @param levelGT the level above which elements are replaced, at least @p levelLT.
+ * @param valueGT what replaces them.
+ * @return #tavStatusOk; #tavStatusNullPointer if @p srcDst is null; #tavStatusBadSize if @p len is below 1;
+ *         #tavStatusBadThresholdPair if @p levelLT is above @p levelGT.
+ */
 TavStatus tavsThreshold_LTValGTVal_16s_I(Tav16s* srcDst, int len, Tav16s levelLT, Tav16s valueLT, Tav16s levelGT,
                                          Tav16s valueGT);
 TavStatus tavsThreshold_LTValGTVal_32s_I(Tav32s* srcDst, int len, Tav32s levelLT, Tav32s valueLT, Tav32s levelGT,
@@ -204,14 +274,27 @@ TavStatus tavsThreshold_LTAbs_16s(const Tav16s* src, Tav16s* dst, int len, Tav16
 TavStatus tavsThreshold_LTAbs_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
 TavStatus tavsThreshold_LTAbs_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
 TavStatus tavsThreshold_LTAbs_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
-TavStatus tavsThreshold_LTAbs_16s_I(Tav16s* srcDst, int len, Tav16s level);
-TavStatus tavsThreshold_LTAbs_32s_I(Tav32s* srcDst, int len, Tav32s level);
-TavStatus tavsThreshold_LTAbs_32f_I(Tav32f* srcDst, int len, Tav32f level);
-TavStatus tavsThreshold_LTAbs_64f_I(Tav64f* srcDst, int len, Tav64f level);
 TavStatus tavsThreshold_GTAbs_16s(const Tav16s* src, Tav16s* dst, int len, Tav16s level);
 TavStatus tavsThreshold_GTAbs_32s(const Tav32s* src, Tav32s* dst, int len, Tav32s level);
 TavStatus tavsThreshold_GTAbs_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
 TavStatus tavsThreshold_GTAbs_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
+/** @} */
+
+/** @name tavsThreshold_LTAbs, tavsThreshold_GTAbs, in place
+ *  @{ */
+/**
+ * The same in place, as tavsThreshold_LTAbs_16s() and its kin.
+ *
+ * @param srcDst source and destination, @p len elements.
+ * @param len    number of elements, at least 1.
+ * @param level  the level of the magnitudes, not negative.
+ * @return #tavStatusOk; #tavStatusNullPointer if @p srcDst is null; #tavStatusBadSize if @p len is below 1;
+ *         #tavStatusNegativeLevel if @p level is below 0.
+ */
+TavStatus tavsThreshold_LTAbs_16s_I(Tav16s* srcDst, int len, Tav16s level);
+TavStatus tavsThreshold_LTAbs_32s_I(Tav32s* srcDst, int len, Tav32s level);
+TavStatus tavsThreshold_LTAbs_32f_I(Tav32f* srcDst, int len, Tav32f level);
+TavStatus tavsThreshold_LTAbs_64f_I(Tav64f* srcDst, int len, Tav64f level);
 TavStatus tavsThreshold_GTAbs_16s_I(Tav16s* srcDst, int len, Tav16s level);
 TavStatus tavsThreshold_GTAbs_32s_I(Tav32s* srcDst, int len, Tav32s level);
 TavStatus tavsThreshold_GTAbs_32f_I(Tav32f* srcDst, int len, Tav32f level);
@@ -240,10 +323,24 @@ TavStatus tavsThreshold_GTAbs_64f_I(Tav64f* srcDst, int len, Tav64f level);
  */
 TavStatus tavsThreshold_LTInv_32f(const Tav32f* src, Tav32f* dst, int len, Tav32f level);
 TavStatus tavsThreshold_LTInv_64f(const Tav64f* src, Tav64f* dst, int len, Tav64f level);
-TavStatus tavsThreshold_LTInv_32f_I(Tav32f* srcDst, int len, Tav32f level);
-TavStatus tavsThreshold_LTInv_64f_I(Tav64f* srcDst, int len, Tav64f level);
 TavStatus tavsThreshold_LTInv_32fc(const Tav32fc* src, Tav32fc* dst, int len, Tav32f level);
 TavStatus tavsThreshold_LTInv_64fc(const Tav64fc* src, Tav64fc* dst, int len, Tav64f level);
+/** @} */
+
+/** @name tavsThreshold_LTInv, in place
+ *  @{ */
+/**
+ * The same in place, as tavsThreshold_LTInv_32f() and its kin.
+ *
+ * @param srcDst source and destination, @p len elements.
+ * @param len    number of elements, at least 1.
+ * @param level  the least magnitude, not negative.
+ * @return #tavStatusOk; #tavStatusNullPointer if @p srcDst is null; #tavStatusBadSize if @p len is below 1;
+ *         #tavStatusNegativeLevel if @p level is below 0; #tavStatusWarnInverseOfZero, with all elements done, if @p
+ * level is 0 and an element is 0.
+ */
+TavStatus tavsThreshold_LTInv_32f_I(Tav32f* srcDst, int len, Tav32f level);
+TavStatus tavsThreshold_LTInv_64f_I(Tav64f* srcDst, int len, Tav64f level);
 TavStatus tavsThreshold_LTInv_32fc_I(Tav32fc* srcDst, int len, Tav32f level);
 TavStatus tavsThreshold_LTInv_64fc_I(Tav64fc* srcDst, int len, Tav64f level);
 /** @} */
