@@ -22,6 +22,7 @@
 #include "tavs/contexts.h"
 #include "tavs/convert.h"
 #include "tavs/division.h"
+#include "tavs/fft.h"
 #include "tavs/formats.h"
 #include "tavs/logic.h"
 #include "tavs/memory.h"

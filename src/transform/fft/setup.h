@@ -1,0 +1,70 @@
+// Size query, set-up and release of the records in floats. The set-up is in steps, which the real transforms share.
+#pragma once
+#include "frame/checks.h"
+#include "frame/rounding.h"
+#include "transform/fft/engine.h"
+
+namespace tav::TAV_VARIANT::fft {
+
+inline constexpr int highest_order = 30;
+
+inline bool legal(int flag) {
+  return flag == fftScaleForward || flag == fftScaleInverse || flag == fftScaleBoth || flag == fftScaleNone;
+}
+
+// The range of orders comes first, then the pointers, the flag, and the limit of the record.
+inline TavStatus check_sizes(int order, int flag, int limit, const int* spec, const int* init, const int* work) {
+  if (unsigned(order) > unsigned(highest_order)) return tavStatusBadOrder;
+  if (any_null(spec, init, work)) return tavStatusNullPointer;
+  if (!legal(flag)) return tavStatusBadFlag;
+  return order > limit ? tavStatusBadOrder : tavStatusOk;
+}
+
+inline void report(const fft_sizes& sizes, int* spec, int* init, int* work) {
+  *spec = sizes.spec;
+  *init = sizes.init;
+  *work = sizes.work;
+}
+
+// 1/N in the record's precision, 1/sqrt(N) in double precision and then narrowed; under the rounding scope of the
+// caller.
+template <class T> T scale_of(int order, int flag) {
+  const double n = held(double(int64_t(1) << order));
+  if (flag == fftScaleBoth) return T(1.0 / _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(n))));
+  return T(1) / T(n);
+}
+
+// A record without an id yet, its flag stored. A failed set-up leaves it so.
+template <class T> TavStatus start_record(fft_record<T>* r, int order, int flag, int hint) {
+  *r = {};
+  if (!legal(flag)) return tavStatusBadFlag;
+  r->order         = order;
+  r->hint          = hint;
+  r->scale_forward = flag == fftScaleForward || flag == fftScaleBoth;
+  r->scale_inverse = flag == fftScaleInverse || flag == fftScaleBoth;
+  if (flag != fftScaleNone)
+    for (T& lane : r->scale) lane = scale_of<T>(order, flag);
+  return tavStatusOk;
+}
+
+// The quarter wave that serves a transform of this order: constant, or made in the caller's set-up area.
+template <class T> TavStatus make_wave(int order, Tav8u* init, quarter_wave<T>* wave) {
+  if (order <= constant_wave_order) {
+    *wave = {constant_wave<T>(), constant_wave_order};
+    return tavStatusOk;
+  }
+  if (!init) return tavStatusNullPointer;
+  T* const table = reinterpret_cast<T*>(align_up(init));
+  fill_quarter_wave(table, order);
+  *wave = {table, order};
+  return tavStatusOk;
+}
+
+// The tables of a complex transform of 2^order points, of order 6 at least, from `at`, a 64-byte boundary. Returns the
+// boundary behind them.
+template <class T> Tav8u* make_tables(fft_record<T>* r, int order, const quarter_wave<T>& wave, Tav8u* at);
+
+extern template Tav8u* make_tables(fft_record<Tav32f>*, int, const quarter_wave<Tav32f>&, Tav8u*);
+extern template Tav8u* make_tables(fft_record<Tav64f>*, int, const quarter_wave<Tav64f>&, Tav8u*);
+
+}  // namespace tav::TAV_VARIANT::fft

@@ -1,0 +1,343 @@
+// The records of the complex transforms: the sizes they report, and that set-up and calls keep to them; the order of
+// the checks; what a failure leaves behind.
+#include <gtest/gtest.h>
+
+#include "harness/faults.h"
+#include "transform/fft_calls.h"
+
+using namespace test;
+
+namespace {
+
+template <class F> class FftRecord : public testing::Test {};
+using families = testing::Types<fft_32fc, fft_32f, fft_64fc, fft_64f>;
+TYPED_TEST_SUITE(FftRecord, families);
+
+struct sizes {
+  int  spec, init, work;
+  bool operator==(const sizes&) const = default;
+};
+std::ostream& operator<<(std::ostream& out, const sizes& s) {
+  return out << s.spec << ", " << s.init << ", " << s.work;
+}
+
+template <class F> sizes sizes_of(int order) {
+  sizes s{};
+  EXPECT_EQ(call<F::get_size>(order, fftScaleNone, 0, &s.spec, &s.init, &s.work), tavStatusOk);
+  return s;
+}
+
+struct reference {
+  int   order;
+  sizes v8, s8;
+};
+
+template <class F> void check_sizes(const std::vector<reference>& rows) {
+  each_build<F::get_size>([&] {
+    int        limit, x;  // the variant shows in the greatest order of the 64-bit records
+    const bool v8 = call<&::tavsFFTGetSize_C_64fc>(27, fftScaleNone, 0, &limit, &x, &x) == tavStatusOk;
+    for (const reference& r : rows) EXPECT_EQ(sizes_of<F>(r.order), v8 ? r.v8 : r.s8) << "order " << r.order;
+  });
+}
+
+template <class F> void check_single_sizes() {
+  check_sizes<F>({{0, {152, 0, 0}, {152, 0, 0}},
+                  {5, {152, 0, 0}, {152, 0, 0}},
+                  {6, {896, 0, 576}, {896, 0, 576}},
+                  {10, {9536, 0, 8256}, {9536, 0, 8256}},
+                  {11, {18752, 2176, 16448}, {18752, 2176, 16448}},
+                  {16, {590144, 65664, 524352}, {360768, 65664, 32832}},
+                  {18, {1442112, 262272, 131136}, {1182016, 262272, 131136}}});
+}
+template <class F> void check_double_sizes() {
+  check_sizes<F>({{0, {160, 0, 0}, {160, 0, 0}},
+                  {6, {1408, 0, 1088}, {1408, 0, 0}},
+                  {12, {69952, 8320, 65600}, {69952, 8320, 0}},
+                  {13, {139584, 16512, 131136}, {139584, 16512, 0}},
+                  {14, {278848, 32896, 262208}, {279936, 32896, 32832}}});
+}
+
+TEST(FftRecordSizes, As32fc) { check_single_sizes<fft_32fc>(); }
+TEST(FftRecordSizes, As32f) { check_single_sizes<fft_32f>(); }
+TEST(FftRecordSizes, As64fc) { check_double_sizes<fft_64fc>(); }
+TEST(FftRecordSizes, As64f) { check_double_sizes<fft_64f>(); }
+
+// Set-up and a call in blocks of just these sizes, between guard bytes and at all kinds of addresses.
+template <class F> void check_set_up(int order, unsigned offset) {
+  using T               = typename F::part;
+  const sizes  size     = sizes_of<F>(order);
+  const size_t n        = size_t(1) << order;
+  const auto   block_at = [&](arena& home, int bytes) {
+    return array<Tav8u>(home, size_t(bytes), {placement::inside, offset});
+  };
+  arena      spec_home(size_t(size.spec) + 64), init_home(size_t(size.init) + 64), work_home(size_t(size.work) + 64);
+  const auto spec = block_at(spec_home, size.spec), init = block_at(init_home, size.init),
+             work = block_at(work_home, size.work);
+
+  typename F::record* ctx = nullptr;
+  ASSERT_EQ(call<F::init>(&ctx, order, fftScaleNone, 0, spec.data(), size.init == 0 ? nullptr : init.data()), 0);
+  ASSERT_TRUE(spec.guards_intact() && init.guards_intact());
+  EXPECT_EQ(uintptr_t(ctx) % 64, 0u);
+  EXPECT_LT(uintptr_t(ctx) - uintptr_t(spec.data()), 64u);
+  const std::vector<Tav8u> record = spec.values();
+
+  int buf_size = -1;
+  EXPECT_EQ(call<F::get_buf_size>(ctx, &buf_size), tavStatusOk);
+  EXPECT_EQ(buf_size, size.work);
+  std::vector<T> x(2 * n, T(1));
+  ASSERT_EQ((run_fft<F, false>(x.data(), x.data(), n, ctx, work.data())), tavStatusOk);
+  EXPECT_TRUE(work.guards_intact());
+  EXPECT_EQ(x[0], T(n));
+  EXPECT_EQ(spec.values(), record) << "a call changed the record";
+
+  EXPECT_EQ(call<F::free>(ctx), tavStatusOk);
+  EXPECT_EQ(call<F::free>(ctx), tavStatusBadContext);
+  EXPECT_TRUE(spec.guards_intact());
+}
+
+TYPED_TEST(FftRecord, KeepsToItsSizes) {
+  each_build<TypeParam::init>([&] {
+    for (int order = 0; order <= 20; ++order)
+      for (unsigned offset : {0u, 1u, 8u, 15u}) {
+        SCOPED_TRACE(testing::Message() << "order " << order << ", offset " << offset);
+        if (order < 16 || offset == 1) check_set_up<TypeParam>(order, offset);
+        if (this->HasFatalFailure()) return;
+      }
+  });
+}
+
+TYPED_TEST(FftRecord, SizeQueryChecksInOrder) {
+  using F = TypeParam;
+  each_build<F::get_size>([&] {
+    int        a = -7, b = -7, c = -7;
+    int* const null = nullptr;
+    for (int order : {-1, 31, 1000, INT32_MIN})
+      EXPECT_EQ(call<F::get_size>(order, 3, 0, null, null, null), tavStatusBadOrder);
+    for (int order : {3, 29, 30}) {
+      EXPECT_EQ(call<F::get_size>(order, 3, 0, null, &b, &c), tavStatusNullPointer);
+      EXPECT_EQ(call<F::get_size>(order, 3, 0, &a, null, &c), tavStatusNullPointer);
+      EXPECT_EQ(call<F::get_size>(order, 3, 0, &a, &b, null), tavStatusNullPointer);
+      for (int flag : {0, 3, 5, 6, 7, 9, 16, -1})
+        EXPECT_EQ(call<F::get_size>(order, flag, 0, &a, &b, &c), tavStatusBadFlag);
+    }
+    EXPECT_EQ(call<F::get_size>(29, fftScaleBoth, 0, &a, &b, &c), tavStatusBadOrder);
+    EXPECT_EQ((sizes{a, b, c}), (sizes{-7, -7, -7}));
+    for (int hint : {0, 1, 2, -16}) EXPECT_EQ(call<F::get_size>(4, fftScaleBoth, hint, &a, &b, &c), tavStatusOk);
+  });
+}
+
+TYPED_TEST(FftRecord, GreatestOrders) {
+  using F                 = TypeParam;
+  const bool       single = sizeof(typename F::part) == 4;
+  std::vector<int> limits;
+  each_build<F::get_size>([&] {
+    int a, b, c, order = 30;
+    while (call<F::get_size>(order, fftScaleNone, 0, &a, &b, &c) != tavStatusOk) --order;
+    EXPECT_TRUE(single ? order == 28 : order == 27 || order == 26);
+    EXPECT_TRUE(a > 0 && b > 0 && c > 0);
+    limits.push_back(order);
+  });
+  EXPECT_TRUE(single || limits.size() == 1 || limits[0] == limits[1] + 1);
+}
+
+TYPED_TEST(FftRecord, InitChecksInOrder) {
+  using F = TypeParam;
+  each_build<F::init>([&] {
+    alignas(64) Tav8u          block[256];
+    std::vector<Tav8u>         large(size_t(sizes_of<F>(11).spec));
+    typename F::record*        ctx  = nullptr;
+    typename F::record** const none = nullptr;
+    EXPECT_EQ(call<F::init>(none, 31, 3, 0, nullptr, nullptr), tavStatusNullPointer);
+    for (int order : {-1, 29, 31}) EXPECT_EQ(call<F::init>(&ctx, order, 3, 0, nullptr, nullptr), tavStatusBadOrder);
+    EXPECT_EQ(call<F::init>(&ctx, 3, 3, 0, nullptr, nullptr), tavStatusNullPointer);
+
+    memset(block, 0xFF, sizeof block);
+    EXPECT_EQ(call<F::init>(&ctx, 3, 3, 0, block + 1, nullptr), tavStatusBadFlag);
+    EXPECT_EQ(*reinterpret_cast<uint32_t*>(block + 64), 0u) << "a failed set-up leaves a dead record";
+    memset(large.data(), 0xFF, large.size());
+    Tav8u* const aligned = large.data() + (-uintptr_t(large.data()) & 63);
+    EXPECT_EQ(call<F::init>(&ctx, 11, fftScaleNone, 0, large.data(), nullptr), tavStatusNullPointer);
+    EXPECT_EQ(*reinterpret_cast<uint32_t*>(aligned), 0u);
+    EXPECT_EQ(ctx, nullptr);
+    for (int hint : {0, 1, 7, -1}) EXPECT_EQ(call<F::init>(&ctx, 2, fftScaleNone, hint, block, nullptr), tavStatusOk);
+  });
+}
+
+TYPED_TEST(FftRecord, InitAllocTakesAndGivesBack) {
+  using F = TypeParam;
+  each_build<F::init_alloc>([&] {
+    typename F::record*        ctx  = nullptr;
+    typename F::record** const none = nullptr;
+    EXPECT_EQ(call<F::init_alloc>(none, 31, 3, 0), tavStatusNullPointer);
+    EXPECT_EQ(call<F::init_alloc>(&ctx, 31, 3, 0), tavStatusBadOrder);
+    EXPECT_EQ(call<F::init_alloc>(&ctx, 29, 3, 0), tavStatusBadFlag);
+    EXPECT_EQ(call<F::init_alloc>(&ctx, 29, fftScaleNone, 0), tavStatusBadOrder);
+    for (int order : {4, 8, 12}) {
+      const int blocks = order < 11 ? 1 : 2;
+      for (int granted = 0; granted < blocks; ++granted) {
+        tavcore_fake_reset();
+        tavcore_fake_refuse_after(granted);
+        EXPECT_EQ(call<F::init_alloc>(&ctx, order, fftScaleNone, 0), tavStatusNoMemory);
+        EXPECT_EQ(tavcore_fake_read().live, 0);
+        EXPECT_EQ(ctx, nullptr);
+      }
+      tavcore_fake_reset();
+      ASSERT_EQ(call<F::init_alloc>(&ctx, order, fftScaleNone, 0), tavStatusOk);
+      EXPECT_EQ(tavcore_fake_read().allocations, blocks);
+      EXPECT_EQ(tavcore_fake_read().live, 1);
+      EXPECT_EQ(call<F::free>(ctx), tavStatusOk);
+      EXPECT_EQ(tavcore_fake_read().live, 0);
+      EXPECT_EQ(tavcore_fake_read().damaged, 0);
+      ctx = nullptr;
+    }
+    tavcore_fake_reset();
+  });
+}
+
+TYPED_TEST(FftRecord, SameInEveryRoundingMode) {
+  using F = TypeParam;
+  each_build<F::init>([&] {
+    for (int order : {3, 7, 11}) {
+      const sizes                     size = sizes_of<F>(order);
+      std::vector<Tav8u>              mem(size_t(size.spec)), init(size_t(size.init));
+      std::vector<std::vector<Tav8u>> made;
+      const uint32_t                  mine = _mm_getcsr();
+      for (uint32_t mode : {0x0000u, 0x2000u, 0x4000u, 0x6000u}) {
+        typename F::record* ctx = nullptr;
+        _mm_setcsr(mine | mode);
+        const TavStatus status = call<F::init>(&ctx, order, fftScaleBoth, 0, mem.data(), init.data());
+        _mm_setcsr(mine);
+        EXPECT_EQ(status, tavStatusOk);
+        made.push_back(mem);
+        EXPECT_EQ(made.back(), made.front()) << "order " << order << ", mode " << mode;
+      }
+    }
+  });
+}
+
+// Without a work area a call allocates, and gives back; refused, it writes nothing.
+TYPED_TEST(FftRecord, CallsAllocateWhereTheyMust) {
+  using F = TypeParam;
+  each_build<F::forward>([&] {
+    for (int order : {5, 6, 9, 14}) {
+      fft_context<F>                      context(order, fftScaleNone);
+      const size_t                        n = size_t(1) << order;
+      std::vector<typename F::part>       x(2 * n, 1), y(2 * n, 2);
+      const std::vector<typename F::part> before = y;
+      const int                           size   = context.buf_size();
+      const bool                          needs  = size != 0;
+      tavcore_fake_reset();
+      tavcore_fake_refuse_after(0);
+      EXPECT_EQ((run_fft<F, false>(x.data(), y.data(), n, context.get(), nullptr)),
+                needs ? tavStatusNoMemory : tavStatusOk);
+      EXPECT_EQ((run_fft<F, true>(y.data(), y.data(), n, context.get(), nullptr)),
+                needs ? tavStatusNoMemory : tavStatusOk);
+      EXPECT_TRUE(!needs || y == before);
+      tavcore_fake_reset();
+      EXPECT_EQ((run_fft<F, true>(x.data(), y.data(), n, context.get(), nullptr)), tavStatusOk);
+      EXPECT_EQ(tavcore_fake_read().allocations, needs ? 1 : 0);
+      EXPECT_TRUE(!needs || tavcore_fake_read().last_size == size - 64);
+      EXPECT_EQ(tavcore_fake_read().live, 1) << "only the context itself";
+    }
+  });
+}
+
+// Faults as rows. With one of the later faults the context is live: its first word says so, and nothing else of a
+// record is read before the data is checked.
+template <uint32_t Id> struct records {
+  static inline uint32_t live[64] = {Id}, dead[64] = {}, other[64] = {Id == 4 ? 5u : 4u};
+};
+
+template <size_t I, class... P> using record_at = std::tuple_element_t<I, std::tuple<P...>>;
+
+template <uint32_t Id, size_t Ctx, class... P> void add_bad_contexts(std::vector<fault<P...>>& faults) {
+  faults.push_back({"no context", tavStatusNullPointer, [](arguments<P...>& a) { a.template spoil<Ctx>(); }});
+  faults.push_back({"dead context", tavStatusBadContext, [](arguments<P...>& a) {
+                      a.template set<Ctx>(reinterpret_cast<record_at<Ctx, P...>>(records<Id>::dead));
+                    }});
+  faults.push_back({"another context", tavStatusBadContext, [](arguments<P...>& a) {
+                      a.template set<Ctx>(reinterpret_cast<record_at<Ctx, P...>>(records<Id>::other));
+                    }});
+}
+
+// The first `Data` arguments but the context, none of which may be null.
+template <uint32_t Id, size_t Ctx, size_t Data, class... P> void add_null_data(std::vector<fault<P...>>& faults) {
+  [&]<size_t... I>(std::index_sequence<I...>) {
+    const auto add = [&]<size_t K>() {
+      if constexpr (K != Ctx)
+        faults.push_back({"argument " + std::to_string(K) + " null", tavStatusNullPointer, [](arguments<P...>& a) {
+                            a.template set<Ctx>(reinterpret_cast<record_at<Ctx, P...>>(records<Id>::live));
+                            a.template spoil<K>();
+                          }});
+    };
+    (add.template operator()<I>(), ...);
+  }
+  (std::make_index_sequence<Data>{});
+}
+
+template <uint32_t Id, size_t Ctx, size_t Data>
+constexpr auto context_then_data = []<class... P>(TavStatus (*function)(P...), const auto& each) {
+  std::vector<fault<P...>> faults;
+  add_bad_contexts<Id, Ctx>(faults);
+  add_null_data<Id, Ctx, Data>(faults);
+  each([&] { expect_faults(function, faults); });
+};
+
+constexpr auto sizes_in_order = []<class... P>(TavStatus (*function)(P...), const auto& each) {
+  using a = arguments<P...>;
+  const std::vector<fault<P...>> faults{{"order -1", tavStatusBadOrder, [](a& x) { x.template set<0>(-1); }},
+                                        {"order 31", tavStatusBadOrder, [](a& x) { x.template set<0>(31); }},
+                                        {"no specSize", tavStatusNullPointer, [](a& x) { x.template spoil<3>(); }},
+                                        {"no initSize", tavStatusNullPointer, [](a& x) { x.template spoil<4>(); }},
+                                        {"no workSize", tavStatusNullPointer, [](a& x) { x.template spoil<5>(); }},
+                                        {"flag 3", tavStatusBadFlag, [](a& x) { x.template set<1>(3); }},
+                                        {"order 29", tavStatusBadOrder, [](a& x) { x.template set<0>(29); }}};
+  each([&] { expect_faults(function, faults); });
+};
+
+// A bad flag is not a row: it leaves its mark in the memory.
+constexpr auto init_in_order = []<class... P>(TavStatus (*function)(P...), const auto& each) {
+  using a = arguments<P...>;
+  const std::vector<fault<P...>> faults{{"no ctx", tavStatusNullPointer, [](a& x) { x.template spoil<0>(); }},
+                                        {"order -1", tavStatusBadOrder, [](a& x) { x.template set<1>(-1); }},
+                                        {"order 29", tavStatusBadOrder, [](a& x) { x.template set<1>(29); }},
+                                        {"no mem", tavStatusNullPointer, [](a& x) { x.template spoil<4>(); }}};
+  each([&] { expect_faults(function, faults); });
+};
+
+constexpr auto init_alloc_in_order = []<class... P>(TavStatus (*function)(P...), const auto& each) {
+  using a = arguments<P...>;
+  const std::vector<fault<P...>> faults{{"no ctx", tavStatusNullPointer, [](a& x) { x.template spoil<0>(); }},
+                                        {"order 31", tavStatusBadOrder, [](a& x) { x.template set<1>(31); }},
+                                        {"flag 3", tavStatusBadFlag, [](a& x) { x.template set<2>(3); }},
+                                        {"order 29", tavStatusBadOrder, [](a& x) { x.template set<1>(29); }}};
+  each([&] { expect_faults(function, faults); });
+};
+
+}  // namespace
+
+#define CASE(type, id)                                      \
+  TAV_FAULTS(FFTGetSize_C_##type, sizes_in_order)           \
+  TAV_FAULTS(FFTInit_C_##type, init_in_order)               \
+  TAV_FAULTS(FFTInitAlloc_C_##type, init_alloc_in_order)    \
+  TAV_FAULTS(FFTFree_C_##type, context_then_data<id, 0, 1>) \
+  TAV_FAULTS(FFTGetBufSize_C_##type, context_then_data<id, 0, 2>)
+CASE(32fc, 4)
+CASE(32f, 5)
+CASE(64fc, 7)
+CASE(64f, 8)
+#undef CASE
+
+#define CASE(name, id)                               \
+  TAV_FAULTS(FFT##name, context_then_data<id, 2, 3>) \
+  TAV_FAULTS(FFT##name##_I, context_then_data<id, 1, 2>)
+CASE(Fwd_CToC_32fc, 4)
+CASE(Inv_CToC_32fc, 4)
+CASE(Fwd_CToC_64fc, 7) CASE(Inv_CToC_64fc, 7)
+#undef CASE
+
+#define CASE(name, id)                               \
+  TAV_FAULTS(FFT##name, context_then_data<id, 4, 5>) \
+  TAV_FAULTS(FFT##name##_I, context_then_data<id, 2, 3>)
+    CASE(Fwd_CToC_32f, 5) CASE(Inv_CToC_32f, 5) CASE(Fwd_CToC_64f, 8) CASE(Inv_CToC_64f, 8)
+#undef CASE
