@@ -136,7 +136,7 @@ BENCH_FAMILY(kernels) {
                     {"2 vectors", whole_rounds<mul_32fc, complex_kernel<2>>},
                     {"4 vectors", whole_rounds<mul_32fc, complex_kernel<4>>},
                     {"integer shuffle", whole_rounds<mul_32fc, complex_integer_shuffle>},
-                    {"by parts", whole_rounds<mul_32fc, complex_by_parts>}});
+                    {"parts apart", whole_rounds<mul_32fc, complex_by_parts>}});
   contest<Tav32f>({.name = "MulC_32f, other kernels", .bytes = 8},
                   {{ours, times_3},
                    {"1 vector", whole_rounds<times_3, constant_kernel<1>>},
