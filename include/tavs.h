@@ -23,6 +23,7 @@
 #include "tavs/convert.h"
 #include "tavs/division.h"
 #include "tavs/fft.h"
+#include "tavs/fft_real.h"
 #include "tavs/formats.h"
 #include "tavs/logic.h"
 #include "tavs/memory.h"

@@ -31,6 +31,7 @@ struct fft_plan {
   int     tiles_from;            // orders that are reordered in tiles
   int     points_per_tile_byte;  // of the list of tiles
   size_t  tile_table, tile_work;
+  int     factors_from;  // real orders whose twiddles are products of two short tables
 
   constexpr const fft_cut& cut_of(int order) const {
     const fft_cut* found = &cuts[0];
@@ -63,7 +64,8 @@ inline constexpr tuning tune{
                         .tiles_from           = 19,
                         .points_per_tile_byte = 1024,
                         .tile_table           = 4160,
-                        .tile_work            = 65536},
+                        .tile_work            = 65536,
+                        .factors_from         = 19},
     .fft_double      = {.max_order            = 27,
                         .in_place             = false,
                         .columns_from         = 17,
@@ -73,7 +75,8 @@ inline constexpr tuning tune{
                         .tiles_from           = 18,
                         .points_per_tile_byte = 256,
                         .tile_table           = 1088,
-                        .tile_work            = 32768},
+                        .tile_work            = 32768,
+                        .factors_from         = 18},
 };
 }
 
@@ -92,7 +95,8 @@ inline constexpr tuning tune{
                         .tiles_from           = 17,
                         .points_per_tile_byte = 256,
                         .tile_table           = 1088,
-                        .tile_work            = 16384},
+                        .tile_work            = 16384,
+                        .factors_from         = 18},
     .fft_double      = {.max_order            = 26,
                         .in_place             = true,
                         .columns_from         = 17,
@@ -102,7 +106,8 @@ inline constexpr tuning tune{
                         .tiles_from           = 14,
                         .points_per_tile_byte = 256,
                         .tile_table           = 1088,
-                        .tile_work            = 32768},
+                        .tile_work            = 32768,
+                        .factors_from         = 18},
 };
 }
 

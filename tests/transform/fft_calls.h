@@ -1,5 +1,5 @@
-// The complex transforms by type: their exports, their records, and calls that look the same for interleaved and split
-// data.
+// The transforms of floats by type: their exports, their records, and calls that look the same for interleaved, split
+// and real data.
 #pragma once
 #include "harness/arena.h"
 #include "harness/builds.h"
@@ -37,6 +37,43 @@ using fft_32f  = TAV_FFT_FAMILY(32f, Tav32fc, true);
 using fft_64fc = TAV_FFT_FAMILY(64fc, Tav64fc, false);
 using fft_64f  = TAV_FFT_FAMILY(64f, Tav64fc, true);
 #undef TAV_FFT_FAMILY
+
+// Real ones, by format. Formats are numbered as `spectrum_format`.
+enum class spectrum_format { perm, pack, ccs };
+
+template <class Part, class Record, spectrum_format Format, auto* GetSize, auto* Init, auto* InitAlloc, auto* Free,
+          auto* GetBufSize, auto* Forward, auto* Inverse, auto* ForwardInPlace, auto* InverseInPlace>
+struct fft_real_family {
+  using sample                           = Part;
+  using part                             = Part;
+  using record                           = Record;
+  static constexpr auto  format          = Format;
+  static constexpr auto* get_size        = GetSize;
+  static constexpr auto* init            = Init;
+  static constexpr auto* init_alloc      = InitAlloc;
+  static constexpr auto* free            = Free;
+  static constexpr auto* get_buf_size    = GetBufSize;
+  static constexpr auto* forward         = Forward;
+  static constexpr auto* inverse         = Inverse;
+  static constexpr auto* forward_on_self = ForwardInPlace;
+  static constexpr auto* inverse_on_self = InverseInPlace;
+};
+
+#define TAV_FFT_REAL_FAMILY(type, name, kind)                                                                        \
+  fft_real_family<Tav##type, FftContext_R_##type, spectrum_format::kind, &::tavsFFTGetSize_R_##type,                 \
+                  &::tavsFFTInit_R_##type, &::tavsFFTInitAlloc_R_##type, &::tavsFFTFree_R_##type,                    \
+                  &::tavsFFTGetBufSize_R_##type, &::tavsFFTFwd_RTo##name##_##type, &::tavsFFTInv_##name##ToR_##type, \
+                  &::tavsFFTFwd_RTo##name##_##type##_I, &::tavsFFTInv_##name##ToR_##type##_I>
+
+using fft_perm_32f = TAV_FFT_REAL_FAMILY(32f, Perm, perm);
+using fft_pack_32f = TAV_FFT_REAL_FAMILY(32f, Pack, pack);
+using fft_ccs_32f  = TAV_FFT_REAL_FAMILY(32f, CCS, ccs);
+using fft_perm_64f = TAV_FFT_REAL_FAMILY(64f, Perm, perm);
+using fft_pack_64f = TAV_FFT_REAL_FAMILY(64f, Pack, pack);
+using fft_ccs_64f  = TAV_FFT_REAL_FAMILY(64f, CCS, ccs);
+#undef TAV_FFT_REAL_FAMILY
+
+template <class F> inline constexpr bool is_real = requires { F::format; };
 
 // A record of InitAlloc for one scope.
 template <class F> class fft_context {
@@ -96,7 +133,9 @@ TavStatus run_fft(const typename F::part* src, typename F::part* dst, size_t n, 
                   Tav8u* buf) {
   constexpr auto* out = Inverse ? F::inverse : F::forward;
   constexpr auto* on  = Inverse ? F::inverse_on_self : F::forward_on_self;
-  if constexpr (F::split) {
+  if constexpr (is_real<F>) {
+    return src == dst ? call<on>(dst, ctx, buf) : call<out>(src, dst, ctx, buf);
+  } else if constexpr (F::split) {
     if (src == dst) return call<on>(dst, dst + n, ctx, buf);
     return call<out>(src, src + n, dst, dst + n, ctx, buf);
   } else {

@@ -14,8 +14,9 @@ struct fft_sizes {
 
 namespace tav::TAV_VARIANT::fft {
 
-// Up to this order the transforms are straight-line code without tables.
-inline constexpr int direct_to = 5;
+// Up to these orders the complex and the real transforms are straight-line code without tables.
+inline constexpr int                    direct_to      = 5;
+template <class T> inline constexpr int real_direct_to = sizeof(T) == 4 ? 4 : 5;
 
 template <class T> inline constexpr const fft_plan& plan_of = sizeof(T) == 4 ? tune.fft_single : tune.fft_double;
 
@@ -69,6 +70,26 @@ template <class T> constexpr fft_sizes complex_sizes(int order) {
   if (order <= direct_to) return {sizeof(T) == 4 ? 152 : 160, 0, 0};
   const fft_share share = complex_share<T>(order);
   return {int(share.tables + record_room), init_size<T>(order), share.work == 0 ? 0 : int(share.work + slack)};
+}
+
+// The tables that turn the spectrum of N/2 complex points into that of N real ones, and back; long transforms have
+// them in two factors. With room for the head.
+template <class T> constexpr size_t recombination_bytes(int order) {
+  const size_t n     = size_t(1) << order,
+               bytes = order >= plan_of<T>.factors_from ? n / (1024 / pair_bytes<T> * 2) + 16510 : sizeof(T) * n + 126;
+  return (bytes & ~size_t(127)) + record_room;
+}
+
+// Of a real transform of 2^order points, `order` above real_direct_to.
+template <class T> constexpr fft_share real_share(int order) {
+  const fft_share half = order - 1 <= direct_to ? fft_share{0, 0} : complex_share<T>(order - 1);
+  return {half.tables + recombination_bytes<T>(order), half.work};
+}
+
+template <class T> constexpr fft_sizes real_sizes(int order) {
+  if (order <= real_direct_to<T>) return {sizeof(T) == 4 ? 152 : 160, 0, 0};
+  const fft_share share = real_share<T>(order);
+  return {int(share.tables), init_size<T>(order), share.work == 0 ? 0 : int(share.work + slack)};
 }
 
 }  // namespace tav::TAV_VARIANT::fft

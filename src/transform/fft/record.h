@@ -15,7 +15,7 @@ template <class T> struct fft_record {
   origin    from;
   void*     allocation;                   // what Free releases: the record may lie up to 63 bytes into it
   const T * stages, *columns;             // the complex transform's tables
-  const T * real_forward, *real_inverse;  // the real transform's
+  const T * real_forward, *real_inverse;  // the real transform's recombination
 };
 
 inline constexpr size_t record_head = 128;  // the tables begin behind it

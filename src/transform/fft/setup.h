@@ -47,24 +47,14 @@ template <class T> TavStatus start_record(fft_record<T>* r, int order, int flag,
   return tavStatusOk;
 }
 
-// The quarter wave that serves a transform of this order: constant, or made in the caller's set-up area.
-template <class T> TavStatus make_wave(int order, Tav8u* init, quarter_wave<T>* wave) {
-  if (order <= constant_wave_order) {
-    *wave = {constant_wave<T>(), constant_wave_order};
-    return tavStatusOk;
-  }
-  if (!init) return tavStatusNullPointer;
-  T* const table = reinterpret_cast<T*>(align_up(init));
-  fill_quarter_wave(table, order);
-  *wave = {table, order};
-  return tavStatusOk;
-}
+// What a record of the order that is stored needs behind its head: the tables, and the size of the work area.
+template <class T> TavStatus fill_complex(fft_record<T>* r, Tav8u* init);
+template <class T> TavStatus fill_real(fft_record<T>* r, Tav8u* init);
 
-// The tables of a complex transform of 2^order points, of order 6 at least, from `at`, a 64-byte boundary. Returns the
-// boundary behind them.
-template <class T> Tav8u* make_tables(fft_record<T>* r, int order, const quarter_wave<T>& wave, Tav8u* at);
-
-extern template Tav8u* make_tables(fft_record<Tav32f>*, int, const quarter_wave<Tav32f>&, Tav8u*);
-extern template Tav8u* make_tables(fft_record<Tav64f>*, int, const quarter_wave<Tav64f>&, Tav8u*);
+#define TAV_FFT_TABLES(declare, T)                                 \
+  declare template TavStatus fill_complex(fft_record<T>*, Tav8u*); \
+  declare template TavStatus fill_real(fft_record<T>*, Tav8u*);
+TAV_FFT_TABLES(extern, Tav32f)
+TAV_FFT_TABLES(extern, Tav64f)
 
 }  // namespace tav::TAV_VARIANT::fft

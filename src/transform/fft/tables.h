@@ -20,13 +20,27 @@ template <class T> class twiddle_writer {
  public:
   twiddle_writer(T* at, const quarter_wave<T>& wave) : at_(at), wave_(wave) {}
 
-  // exp(-2 pi i power k / 2^order) for L neighbouring k: the cosines, then the negated sines, which are the sines a
-  // quarter and half a turn on.
+  // exp(-2 pi i power k / 2^order) for L neighbouring k: the cosines, then the negated sines.
   void put(int order, size_t k, int power) {
-    const int    shift = wave_.order - order;
-    const size_t turn  = size_t(1) << wave_.order;
-    for (int part = 0; part < 2; ++part)
-      for (int l = 0; l < lanes<T>; ++l) *at_++ = wave_.sine((((k + l) * power << shift) + turn / 4 * (1 + part)));
+    for (int l = 0; l < lanes<T>; ++l) *at_++ = cosine(order, (k + l) * power);
+    for (int l = 0; l < lanes<T>; ++l) *at_++ = negative_sine(order, (k + l) * power);
+  }
+
+  // The same for one k.
+  void put_one(int order, size_t k) {
+    *at_++ = cosine(order, k);
+    *at_++ = negative_sine(order, k);
+  }
+
+  // For L neighbouring k the factor of a real transform's recombination: forward -i/2 exp(-2 pi i k / 2^order), moved
+  // by `offset`, inverse i exp(2 pi i k / 2^order).
+  void put_forward(int order, size_t k, T offset) {
+    for (int l = 0; l < lanes<T>; ++l) *at_++ = offset + T(0.5) * negative_sine(order, k + l);
+    for (int l = 0; l < lanes<T>; ++l) *at_++ = T(-0.5) * cosine(order, k + l);
+  }
+  void put_inverse(int order, size_t k) {
+    for (int l = 0; l < lanes<T>; ++l) *at_++ = negative_sine(order, k + l);
+    for (int l = 0; l < lanes<T>; ++l) *at_++ = cosine(order, k + l);
   }
 
   T* at() const { return at_; }
@@ -34,6 +48,13 @@ template <class T> class twiddle_writer {
  private:
   T*                     at_;
   const quarter_wave<T>& wave_;
+
+  // Of 2 pi k / 2^order. They are the wave a quarter and half a turn on.
+  T cosine(int order, size_t k) const { return value(order, k, 1); }
+  T negative_sine(int order, size_t k) const { return value(order, k, 2); }
+  T value(int order, size_t k, int quarters) const {
+    return wave_.sine((k << (wave_.order - order)) + (size_t(quarters) << (wave_.order - 2)));
+  }
 };
 
 }  // namespace tav::TAV_VARIANT::fft

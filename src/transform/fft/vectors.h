@@ -57,6 +57,14 @@ TAV_INLINE __m128d low_lanes(__m128d a, __m128d b) { return _mm_unpacklo_pd(a, b
 TAV_INLINE __m128  high_lanes(__m128 a, __m128 b) { return _mm_unpackhi_ps(a, b); }
 TAV_INLINE __m128d high_lanes(__m128d a, __m128d b) { return _mm_unpackhi_pd(a, b); }
 
+// Every other lane of two registers.
+TAV_INLINE __m128  even_lanes(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, 0x88); }
+TAV_INLINE __m128d even_lanes(__m128d a, __m128d b) { return _mm_unpacklo_pd(a, b); }
+TAV_INLINE __m128  odd_lanes(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, 0xDD); }
+TAV_INLINE __m128d odd_lanes(__m128d a, __m128d b) { return _mm_unpackhi_pd(a, b); }
+
+TAV_INLINE __m128 exchanged_halves(__m128 v) { return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(v), 0x4E)); }
+
 template <int Bytes> struct word_of;
 template <> struct word_of<4> { using type = uint32_t; };
 template <> struct word_of<8> { using type = uint64_t; };
@@ -67,6 +75,7 @@ template <class T> struct constants {
   static constexpr T    h    = T(0.70710678118654752440084436210484903928L);  // 1 / sqrt(2)
   static constexpr word sign = word(1) << (8 * sizeof(T) - 1);
 
+  alignas(16) static constexpr T half[4]           = {T(0.5), T(0.5), T(0.5), T(0.5)};
   alignas(16) static constexpr T half_root[4]      = {h, h, h, h};
   alignas(16) static constexpr T half_root_alt[4]  = {h, -h, h, -h};
   alignas(16) static constexpr T half_root_inv[4]  = {-h, h, -h, h};
