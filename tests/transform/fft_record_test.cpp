@@ -354,17 +354,33 @@ CASE(R_64f, 9)
 #define CASE(name, id)                               \
   TAV_FAULTS(FFT##name, context_then_data<id, 2, 3>) \
   TAV_FAULTS(FFT##name##_I, context_then_data<id, 1, 2>)
+// clang-format off
 CASE(Fwd_CToC_32fc, 4)
 CASE(Inv_CToC_32fc, 4)
 CASE(Fwd_RToPerm_32f, 6)
-CASE(Fwd_RToPack_32f, 6) CASE(Fwd_RToCCS_32f, 6) CASE(Inv_PermToR_32f, 6) CASE(Inv_PackToR_32f, 6)
-    CASE(Inv_CCSToR_32f, 6) CASE(Fwd_RToPerm_64f, 9) CASE(Fwd_RToPack_64f, 9) CASE(Fwd_RToCCS_64f, 9)
-        CASE(Inv_PermToR_64f, 9) CASE(Inv_PackToR_64f, 9) CASE(Inv_CCSToR_64f, 9) CASE(Fwd_CToC_64fc, 7)
-            CASE(Inv_CToC_64fc, 7)
+CASE(Fwd_RToPack_32f, 6)
+CASE(Fwd_RToCCS_32f, 6)
+CASE(Inv_PermToR_32f, 6)
+CASE(Inv_PackToR_32f, 6)
+CASE(Inv_CCSToR_32f, 6)
+CASE(Fwd_RToPerm_64f, 9)
+CASE(Fwd_RToPack_64f, 9)
+CASE(Fwd_RToCCS_64f, 9)
+CASE(Inv_PermToR_64f, 9)
+CASE(Inv_PackToR_64f, 9)
+CASE(Inv_CCSToR_64f, 9)
+CASE(Fwd_CToC_64fc, 7)
+CASE(Inv_CToC_64fc, 7)
+// clang-format on
 #undef CASE
 
 #define CASE(name, id)                               \
   TAV_FAULTS(FFT##name, context_then_data<id, 4, 5>) \
   TAV_FAULTS(FFT##name##_I, context_then_data<id, 2, 3>)
-                CASE(Fwd_CToC_32f, 5) CASE(Inv_CToC_32f, 5) CASE(Fwd_CToC_64f, 8) CASE(Inv_CToC_64f, 8)
+// clang-format off
+CASE(Fwd_CToC_32f, 5)
+CASE(Inv_CToC_32f, 5)
+CASE(Fwd_CToC_64f, 8)
+CASE(Inv_CToC_64f, 8)
+// clang-format on
 #undef CASE
