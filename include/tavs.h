@@ -32,6 +32,7 @@
 #include "tavs/phase.h"
 #include "tavs/polar.h"
 #include "tavs/scaled.h"
+#include "tavs/spectra.h"
 #include "tavs/status.h"
 #include "tavs/threshold.h"
 #include "tavs/types.h"

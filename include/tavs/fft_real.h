@@ -6,6 +6,7 @@
 #define TAVS_FFT_REAL_H
 
 #include "fft.h"
+#include "spectra.h"
 
 #ifdef __cplusplus
 extern "C" {
@@ -13,17 +14,9 @@ extern "C" {
 
 /** @defgroup fft_real Fourier transforms of real signals
  *
- *  The spectrum X of N real samples is conjugate-symmetric, X[N-k] = conj X[k], so bins 0 to N/2 are all of it, and
- * bins 0 and N/2 are real. It comes in one of three formats, here for N = 8:
- *
- *  slot |  0    |  1    |  2    |  3    |  4    |  5    |  6    |  7    |  8    | 9
- *  ---- | ----- | ----- | ----- | ----- | ----- | ----- | ----- | ----- | ----- | -
- *  CCS  | Re X0 | 0     | Re X1 | Im X1 | Re X2 | Im X2 | Re X3 | Im X3 | Re X4 | 0
- *  Pack | Re X0 | Re X1 | Im X1 | Re X2 | Im X2 | Re X3 | Im X3 | Re X4 | |
- *  Perm | Re X0 | Re X4 | Re X1 | Im X1 | Re X2 | Im X2 | Re X3 | Im X3 | |
- *
- *  Perm is what the transform itself makes, and is the fastest; CCS has N + 2 slots, the others N. Contexts are set up
- *  and released as those of complex transforms (fft.h), with the same flags and the same rules for the work area.
+ *  The spectrum X of N real samples comes in one of the three forms described in @ref packed_forms. Perm is what the
+ *  transform itself makes, and is the fastest; CCS has N + 2 slots, the others N. Contexts are set up and released as
+ *  those of complex transforms (fft.h), with the same flags and the same rules for the work area.
  *  @{ */
 
 /** @name tavsFFTGetSize, real

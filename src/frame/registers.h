@@ -21,6 +21,15 @@ template <class T> TAV_INLINE T peek(const T* p) {
 }
 template <class T> TAV_INLINE void poke(T* p, T v) { __builtin_memcpy(static_cast<void*>(p), &v, sizeof v); }
 
+// The type of a complex element's parts, or a real element's own.
+template <class T> struct part_of_element { using type = T; };
+template <class T>
+concept with_parts = requires(T v) {
+  v.re;
+};
+template <with_parts T> struct part_of_element<T> { using type = decltype(T::re); };
+template <class T> using part_of = typename part_of_element<T>::type;
+
 enum class access { unaligned, aligned, streaming };
 
 // clang-format off
@@ -61,6 +70,17 @@ template <access A> TAV_INLINE void store_bits(void* p, __m128i v) {
     _mm_store_si128(q, v);
   else
     _mm_storeu_si128(q, v);
+}
+
+// yes in the lanes of the mask, no in the others.
+TAV_INLINE __m128i selected(__m128i mask, __m128i yes, __m128i no) {
+  return _mm_or_si128(_mm_and_si128(mask, yes), _mm_andnot_si128(mask, no));
+}
+TAV_INLINE __m128 selected(__m128 mask, __m128 yes, __m128 no) {
+  return _mm_or_ps(_mm_and_ps(mask, yes), _mm_andnot_ps(mask, no));
+}
+TAV_INLINE __m128d selected(__m128d mask, __m128d yes, __m128d no) {
+  return _mm_or_pd(_mm_and_pd(mask, yes), _mm_andnot_pd(mask, no));
 }
 
 // 2, 4 or 8 bytes in the low part of a register, the rest zero.
@@ -105,7 +125,7 @@ template <access A, int N, class T> TAV_INLINE group<T, N> load(const T* p) {
 template <access A, class T, class R> TAV_INLINE void store(T* p, R v) { store_bits<A>(p, as_bits(v)); }
 
 template <access A, class T, class R, int K> TAV_INLINE void store(T* p, several<R, K> v) {
-#pragma GCC unroll 8
+#pragma GCC                                                  unroll 8
   for (int k = 0; k < K; ++k) store_bits<A>(p + k * lanes<T>, as_bits(v.r[k]));
 }
 

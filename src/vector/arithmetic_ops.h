@@ -32,36 +32,36 @@ template <class T> struct product_of;     // a * b
 template <real_float T> struct sum_of<T> : types<T, T, T> {
   static constexpr kernel_shape shape = float_shape<T>;
 
-  static T      one(T a, T b) { return a + b; }
-  static reg<T> many(reg<T> a, reg<T> b) { return a + b; }
+  TAV_INLINE static T one(T a, T b) { return a + b; }
+  static reg<T>       many(reg<T> a, reg<T> b) { return a + b; }
 };
 
 template <real_float T> struct difference_of<T> : types<T, T, T> {
   static constexpr kernel_shape shape = float_shape<T>;
 
-  static T      one(T a, T b) { return b - a; }
-  static reg<T> many(reg<T> a, reg<T> b) { return b - a; }
+  TAV_INLINE static T one(T a, T b) { return b - a; }
+  static reg<T>       many(reg<T> a, reg<T> b) { return b - a; }
 };
 
 template <real_float T> struct product_of<T> : types<T, T, T> {
   static constexpr kernel_shape shape = float_shape<T>;
 
-  static T      one(T a, T b) { return a * b; }
-  static reg<T> many(reg<T> a, reg<T> b) { return a * b; }
+  TAV_INLINE static T one(T a, T b) { return a * b; }
+  static reg<T>       many(reg<T> a, reg<T> b) { return a * b; }
 };
 
 template <complex_float T> struct sum_of<T> : types<T, T, T> {
   static constexpr kernel_shape shape = float_shape<T>;
 
-  static T      one(T a, T b) { return {a.re + b.re, a.im + b.im}; }
-  static reg<T> many(reg<T> a, reg<T> b) { return a + b; }
+  TAV_INLINE static T one(T a, T b) { return {a.re + b.re, a.im + b.im}; }
+  static reg<T>       many(reg<T> a, reg<T> b) { return a + b; }
 };
 
 template <complex_float T> struct difference_of<T> : types<T, T, T> {
   static constexpr kernel_shape shape = float_shape<T>;
 
-  static T      one(T a, T b) { return {b.re - a.re, b.im - a.im}; }
-  static reg<T> many(reg<T> a, reg<T> b) { return b - a; }
+  TAV_INLINE static T one(T a, T b) { return {b.re - a.re, b.im - a.im}; }
+  static reg<T>       many(reg<T> a, reg<T> b) { return b - a; }
 };
 
 // The real parts of each pair twice, the imaginary parts twice, the pair turned round; and a difference in the real
@@ -78,9 +78,9 @@ TAV_INLINE __m128d difference_and_sum(__m128d a, __m128d b) { return _mm_addsub_
 template <complex_float T> struct product_of<T> : types<T, T, T> {
   static constexpr kernel_shape shape = float_shape<T>;
 
-  static T      one(T a, T b) { return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re}; }
-  static reg<T> many(reg<T> a, reg<T> b) {
-    return difference_and_sum(a * real_parts(b), turned_round(a) * imaginary_parts(b));
+  TAV_INLINE static T one(T a, T b) { return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re}; }
+  static reg<T>       many(reg<T> a, reg<T> b) {
+          return difference_and_sum(a * real_parts(b), turned_round(a) * imaginary_parts(b));
   }
 };
 

@@ -62,7 +62,7 @@ template <class T> class saturated_to_24 {
   __m128i many(__m128i v) const {
     const __m128i shifted = _mm_sll_epi32(v, by_), fits = _mm_cmpeq_epi32(shifted_right<T>(shifted, by_), v);
     if constexpr (std::is_signed_v<T>)
-      return where(fits, shifted, limit_32s(v));
+      return selected(fits, shifted, limit_32s(v));
     else
       return _mm_or_si128(shifted, _mm_andnot_si128(fits, _mm_set1_epi32(-1)));
   }

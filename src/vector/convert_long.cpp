@@ -15,7 +15,7 @@ struct pair_of_longs : several<__m128i, 2> {};
 TAV_INLINE __m128i saturated(const pair_of_longs& v) {
   const exact_product both{v.r[0], v.r[1]};
   const __m128i       low = words_of<0>(both), high = words_of<1>(both);
-  return where(_mm_cmpeq_epi32(high, _mm_srai_epi32(low, 31)), low, limit_32s(high));
+  return selected(_mm_cmpeq_epi32(high, _mm_srai_epi32(low, 31)), low, limit_32s(high));
 }
 
 struct long_down_to_32s {
@@ -95,7 +95,7 @@ class convert_64f64s_kernel {
     const __m128d size      = _mm_andnot_pd(_mm_set1_pd(-0.0), scaled) + raise_;
     const __m128i too_large = as_bits(_mm_cmpnlt_pd(size, _mm_set1_pd(0x1p63)));  // a NaN, too, and it is not below 0
     const __m128i limit     = _mm_xor_si128(below, _mm_set1_epi64x(max_64s));
-    return either(too_large, limit, with_sign(whole(size), below));
+    return selected(too_large, limit, with_sign(whole(size), below));
   }
 
  private:

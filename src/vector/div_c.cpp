@@ -13,7 +13,7 @@ class times_reciprocal {
   static constexpr int factors_above_single = 4;
 
   times_reciprocal(int s, int highest, int divisor)
-      : reciprocal_(held(single_power_of_2(-s) / held(Tav32f(divisor)))), highest_(Tav32f(highest)) {}
+      : reciprocal_(held(power_of_two_minus<Tav32f>(s) / held(Tav32f(divisor)))), highest_(Tav32f(highest)) {}
 
   TAV_INLINE __m128i four(__m128i a) const {
     const __m128i q     = as_bits(_mm_mul_ps(_mm_cvtepi32_ps(a), _mm_set1_ps(reciprocal_))),

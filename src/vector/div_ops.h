@@ -11,6 +11,7 @@
 #include "frame/rounding.h"
 #include "vector/forms.h"
 #include "vector/narrow_lanes.h"
+#include "vector/to_integer.h"
 
 namespace tav::TAV_VARIANT {
 
@@ -22,18 +23,13 @@ inline constexpr int beyond = 64;  // stands for every factor outside the range
 
 inline int limited(int s, factor_range range) { return s > range.highest ? beyond : s < range.lowest ? -beyond : s; }
 
-inline Tav32f single_power_of_2(int e) { return _mm_cvtss_f32(_mm_castsi128_ps(_mm_cvtsi32_si128((127 + e) << 23))); }
-inline Tav64f double_power_of_2(int e) {
-  return _mm_cvtsd_f64(_mm_castsi128_pd(_mm_setr_epi32(0, (1023 + e) << 20, 0, 0)));
-}
-
 // The units divide four 32-bit integers by four others. What falls below the least integer becomes it.
 
 // `Biased` moves quotients away from zero by `bias` before the conversion.
 template <bool Biased> class in_single {
  public:
   in_single(int s, int highest, Tav32f bias = 0)
-      : scale_(single_power_of_2(-s)), highest_(Tav32f(highest)), bias_(bias) {}
+      : scale_(power_of_two_minus<Tav32f>(s)), highest_(Tav32f(highest)), bias_(bias) {}
 
   TAV_INLINE __m128i four(__m128i b, __m128i a) const {
     __m128 q = _mm_div_ps(_mm_mul_ps(_mm_cvtepi32_ps(a), _mm_set1_ps(scale_)), _mm_cvtepi32_ps(b));
@@ -48,7 +44,7 @@ template <bool Biased> class in_single {
 
 class in_double {
  public:
-  in_double(int s, int highest) : scale_(double_power_of_2(-s)), highest_(highest) {}
+  in_double(int s, int highest) : scale_(power_of_two_minus<Tav64f>(s)), highest_(highest) {}
 
   // The low two of a, into the low half of the result.
   TAV_INLINE __m128i two(__m128d b, __m128i a) const {

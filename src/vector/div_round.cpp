@@ -4,24 +4,24 @@
 // division itself rounding toward zero no quotient reaches an integer or a tie it lies below, so single precision is
 // exact at every factor.
 #include "vector/div_ops.h"
+#include "vector/round_mode.h"
 
 namespace tav::TAV_VARIANT {
 
 using round_toward_zero_masked =
     sse_mode<sse_bits::rounding | sse_bits::all_masks, sse_bits::toward_zero | sse_bits::all_masks>;
 
-enum round_mode { toward_zero = 0, ties_to_even = 1, ties_away = 2 };
-
 template <class T, auto* To_even>
 TavStatus divided_and_rounded(const T* src1, const T* src2, T* dst, int len, int roundMode, int scaleFactor) {
   if (const TavStatus bad = check_vector(len, src1, src2, dst)) return bad;
-  if (roundMode < toward_zero || roundMode > ties_away) return tavStatusBadRoundMode;
-  if (roundMode == ties_to_even) return forward<To_even>(src1, src2, dst, len, scaleFactor);
+  if (roundMode < 0 || roundMode > 2) return tavStatusBadRoundMode;
+  const rounding how = rounding_of(roundMode);
+  if (how == rounding::ties_to_even) return forward<To_even>(src1, src2, dst, len, scaleFactor);
 
   const round_toward_zero_masked scope;
   using unit = in_single<true>;
   return elementwise(quotients<T, T, T, unit>(unit(limited(scaleFactor, division_row<T>::factors), quads<T>::highest,
-                                                   roundMode == ties_away ? 0.5f : 0.0f)),
+                                                   how == rounding::ties_away ? 0.5f : 0.0f)),
                      dst, size_t(len), src1, src2);
 }
 

@@ -18,10 +18,6 @@ TAV_INLINE __m128i mask_of_zeros(__m128i v) {
   return _mm_and_si128(zeros, _mm_shuffle_epi32(zeros, _MM_SHUFFLE(2, 3, 0, 1)));
 }
 
-TAV_INLINE __m128i either(__m128i mask, __m128i yes, __m128i no) {
-  return _mm_or_si128(_mm_and_si128(mask, yes), _mm_andnot_si128(mask, no));
-}
-
 // How each type adds, and how it takes a sign off and puts it on again.
 struct signed_long {
   using type                    = Tav64s;
@@ -31,7 +27,7 @@ struct signed_long {
     const __m128i wrapped = _mm_add_epi64(a, b);
     const __m128i lost    = _mm_and_si128(_mm_xor_si128(a, wrapped), _mm_xor_si128(b, wrapped));
     if (_mm_movemask_pd(_mm_castsi128_pd(lost)) == 0) return wrapped;  // sums seldom overflow, and then many do
-    return either(mask_of_signs(lost), limit(mask_of_signs(a)), wrapped);
+    return selected(mask_of_signs(lost), limit(mask_of_signs(a)), wrapped);
   }
   static __m128i signs(__m128i v) { return mask_of_signs(v); }
   static __m128i limit(__m128i signs) { return _mm_xor_si128(signs, _mm_set1_epi64x(max_64s)); }
@@ -84,7 +80,7 @@ class long_up {  // by 1 to as many bits as a magnitude has
   template <class T> __m128i of(__m128i v) const {
     const __m128i signs = T::signs(v);
     const __m128i fits  = mask_of_zeros(_mm_srl_epi64(with_sign(v, signs), to_lost_));
-    return either(fits, _mm_sll_epi64(v, by_), T::limit(signs));
+    return selected(fits, _mm_sll_epi64(v, by_), T::limit(signs));
   }
 
  private:

@@ -6,10 +6,6 @@
 
 namespace tav::TAV_VARIANT {
 
-template <class T> struct part_of_element { using type = T; };
-template <> struct part_of_element<Tav16sc> { using type = Tav16s; };
-template <class T> using part_of = typename part_of_element<T>::type;
-
 template <class I> struct complex_of { I re, im; };
 
 // What is computed; `neutral` is the constant that leaves the first operand as it is.

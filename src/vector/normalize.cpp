@@ -6,17 +6,12 @@
 
 namespace tav::TAV_VARIANT {
 
-template <class T> struct real_part_of { using type = T; };
-template <> struct real_part_of<Tav32fc> { using type = Tav32f; };
-template <> struct real_part_of<Tav64fc> { using type = Tav64f; };
-template <class T> using real_of = typename real_part_of<T>::type;
-
 // Floats, in the caller's rounding mode.
 template <class T> struct normalized {
-  static constexpr kernel_shape shape{.vector_from = 16 / sizeof(real_of<T>) + 4, .round_bytes = 32};
+  static constexpr kernel_shape shape{.vector_from = 16 / sizeof(part_of<T>) + 4, .round_bytes = 32};
 
   T          less;
-  real_of<T> times;
+  part_of<T> times;
   reg<T>     all_less  = from_bits<T>(repeated(less));
   reg<T>     all_times = from_bits<T>(repeated(times));
 
@@ -32,8 +27,8 @@ template <class T> struct normalized {
 template <class T> constexpr T smallest_normal         = T(0x1p-126f);
 template <> constexpr Tav64f   smallest_normal<Tav64f> = 0x1p-1022;
 
-template <class T> TavStatus normalize(const T* src, T* dst, int len, T vSub, real_of<T> vDiv) {
-  using real = real_of<T>;
+template <class T> TavStatus normalize(const T* src, T* dst, int len, T vSub, part_of<T> vDiv) {
+  using real = part_of<T>;
   if (const TavStatus bad = check_vector(len, src, dst)) return bad;
   if ((vDiv < 0 ? -vDiv : vDiv) < smallest_normal<real>) return tavStatusDivideByZero;
   {

@@ -11,7 +11,7 @@ template <class C> struct both_parts {
   TAV_INLINE static several<reg<C>, 2> many(several<reg<C>, 2> v) { return {{all_re(v), all_im(v)}}; }
 };
 
-template <class C> TavStatus taken_apart(const C* src, part_type<C>* dstRe, part_type<C>* dstIm, int len) {
+template <class C> TavStatus taken_apart(const C* src, part_of<C>* dstRe, part_of<C>* dstIm, int len) {
   if (const TavStatus bad = check_vector(len, src, dstRe, dstIm)) return bad;
   return elementwise_apart(both_parts<C>{}, dstRe, dstIm, size_t(len), src);
 }
@@ -19,10 +19,10 @@ template <class C> TavStatus taken_apart(const C* src, part_type<C>* dstRe, part
 // A register of each part makes two of pairs.
 template <class C>
 inline constexpr kernel_shape shape_of_pairs{
-    .vector_from = lanes<part_type<C>> == 8 ? 15 : 8, .round_bytes = 64, .step = lanes<part_type<C>>};
+    .vector_from = lanes<part_of<C>> == 8 ? 15 : 8, .round_bytes = 64, .step = lanes<part_of<C>>};
 
 template <class C> struct joined_parts {
-  using P                             = part_type<C>;
+  using P                             = part_of<C>;
   static constexpr kernel_shape shape = shape_of_pairs<C>;
 
   TAV_INLINE static C    one(P re, P im) { return {re, im}; }
@@ -30,7 +30,7 @@ template <class C> struct joined_parts {
 };
 
 template <class C> struct joined_to_no_im {
-  using P                             = part_type<C>;
+  using P                             = part_of<C>;
   static constexpr kernel_shape shape = shape_of_pairs<C>;
 
   TAV_INLINE static C    one(P re) { return {re, 0}; }
@@ -38,7 +38,7 @@ template <class C> struct joined_to_no_im {
 };
 
 template <class C> struct joined_to_no_re {
-  using P                             = part_type<C>;
+  using P                             = part_of<C>;
   static constexpr kernel_shape shape = shape_of_pairs<C>;
 
   TAV_INLINE static C    one(P im) { return {0, im}; }
@@ -46,7 +46,7 @@ template <class C> struct joined_to_no_re {
 };
 
 // One source may be null: that part is 0.
-template <class C> TavStatus joined(const part_type<C>* srcRe, const part_type<C>* srcIm, C* dst, int len) {
+template <class C> TavStatus joined(const part_of<C>* srcRe, const part_of<C>* srcIm, C* dst, int len) {
   if (const TavStatus bad = check_vector(len, dst, srcRe ? srcRe : srcIm)) return bad;
   if (!srcIm) return elementwise(joined_to_no_im<C>{}, dst, size_t(len), srcRe);
   if (!srcRe) return elementwise(joined_to_no_re<C>{}, dst, size_t(len), srcIm);

@@ -5,8 +5,6 @@
 
 namespace tav::TAV_VARIANT {
 
-template <class C> using part_type = decltype(C::re);
-
 // The pairs that go into a register of parts P, as the element type they are read from.
 template <class P> struct pair_of_row;
 template <> struct pair_of_row<Tav16s> { using type = Tav16sc; };
@@ -43,15 +41,15 @@ TAV_INLINE several<__m128d, 2> in_pairs(__m128d re, __m128d im) {
 template <class P>
 inline constexpr kernel_shape shape_of_parts{.vector_from = lanes<P> == 8 ? 15 : 8, .round_bytes = 32};
 
-template <class C> struct real_part : types<C, C, part_type<C>> {
-  static constexpr kernel_shape shape = shape_of_parts<part_type<C>>;
+template <class C> struct real_part : types<C, C, part_of<C>> {
+  static constexpr kernel_shape shape = shape_of_parts<part_of<C>>;
 
   TAV_INLINE static auto one(C v) { return v.re; }
   TAV_INLINE static auto many(several<reg<C>, 2> v) { return all_re(v); }
 };
 
-template <class C> struct imaginary_part : types<C, C, part_type<C>> {
-  static constexpr kernel_shape shape = shape_of_parts<part_type<C>>;
+template <class C> struct imaginary_part : types<C, C, part_of<C>> {
+  static constexpr kernel_shape shape = shape_of_parts<part_of<C>>;
 
   TAV_INLINE static auto one(C v) { return v.im; }
   TAV_INLINE static auto many(several<reg<C>, 2> v) { return all_im(v); }

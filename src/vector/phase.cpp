@@ -4,6 +4,7 @@
 #include "frame/rounding.h"
 #include "vector/arctangent.h"
 #include "vector/forms.h"
+#include "vector/parts.h"
 #include "vector/to_integer.h"
 
 namespace tav::TAV_VARIANT {
@@ -14,13 +15,8 @@ template <class F> struct points { reg<F> re, im; };
 // The points in a register of floats, from what the sources hold.
 TAV_INLINE points<Tav32f> points_of(__m128 re, __m128 im) { return {re, im}; }
 TAV_INLINE points<Tav64f> points_of(__m128d re, __m128d im) { return {re, im}; }
-TAV_INLINE points<Tav32f> points_of(several<__m128, 2> pairs) {
-  return {_mm_shuffle_ps(pairs.r[0], pairs.r[1], _MM_SHUFFLE(2, 0, 2, 0)),
-          _mm_shuffle_ps(pairs.r[0], pairs.r[1], _MM_SHUFFLE(3, 1, 3, 1))};
-}
-TAV_INLINE points<Tav64f> points_of(several<__m128d, 2> pairs) {
-  return {_mm_unpacklo_pd(pairs.r[0], pairs.r[1]), _mm_unpackhi_pd(pairs.r[0], pairs.r[1])};
-}
+TAV_INLINE points<Tav32f> points_of(several<__m128, 2> pairs) { return {all_re(pairs), all_im(pairs)}; }
+TAV_INLINE points<Tav64f> points_of(several<__m128d, 2> pairs) { return {all_re(pairs), all_im(pairs)}; }
 
 // Of 16-bit coordinates, four of each in the low halves, or four pairs.
 TAV_INLINE points<Tav32f> points_of_words(__m128i re, __m128i im) {

@@ -3,6 +3,7 @@
 #include "frame/bind.h"
 #include "frame/checks.h"
 #include "frame/rounding.h"
+#include "vector/parts.h"
 #include "vector/sine_cosine.h"
 #include "vector/to_integer.h"
 #include "vector/whole_vectors.h"
@@ -19,18 +20,12 @@ template <class T> struct parts_from_polar {
   }
 };
 
-TAV_INLINE several<__m128, 2> paired(several<__m128, 2> parts) {
-  return {_mm_unpacklo_ps(parts.r[0], parts.r[1]), _mm_unpackhi_ps(parts.r[0], parts.r[1])};
-}
-TAV_INLINE several<__m128d, 2> paired(several<__m128d, 2> parts) {
-  return {_mm_unpacklo_pd(parts.r[0], parts.r[1]), _mm_unpackhi_pd(parts.r[0], parts.r[1])};
-}
-
 template <class T> struct pairs_from_polar {
   static constexpr int step = lanes<T>;
 
   TAV_INLINE static several<reg<T>, 2> many(reg<T> magn, reg<T> phase) {
-    return paired(parts_from_polar<T>::many(magn, phase));
+    const several<reg<T>, 2> parts = parts_from_polar<T>::many(magn, phase);
+    return in_pairs(parts.r[0], parts.r[1]);
   }
 };
 

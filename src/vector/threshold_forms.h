@@ -110,15 +110,4 @@ template <template <class, side> class Op, class T, class Level> struct on_eithe
   }
 };
 
-// yes in the lanes of the mask, no in the others.
-TAV_INLINE __m128i selected(__m128i mask, __m128i yes, __m128i no) {
-  return _mm_or_si128(_mm_and_si128(mask, yes), _mm_andnot_si128(mask, no));
-}
-TAV_INLINE __m128 selected(__m128 mask, __m128 yes, __m128 no) {
-  return _mm_or_ps(_mm_and_ps(mask, yes), _mm_andnot_ps(mask, no));
-}
-TAV_INLINE __m128d selected(__m128d mask, __m128d yes, __m128d no) {
-  return _mm_or_pd(_mm_and_pd(mask, yes), _mm_andnot_pd(mask, no));
-}
-
 }  // namespace tav::TAV_VARIANT::thresholds

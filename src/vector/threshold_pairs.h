@@ -8,8 +8,6 @@ namespace tav::TAV_VARIANT::thresholds {
 
 using two_pairs = several<__m128d, 2>;
 
-template <complex_float T> using part_of = decltype(T::re);
-
 // A scalar loop of costly pairs is short.
 template <class T> inline constexpr kernel_shape pair_shape{.vector_from = 2, .round_bytes = 16};
 template <> inline constexpr kernel_shape        pair_shape<Tav64fc>{.vector_from = 2, .round_bytes = 32, .step = 2};

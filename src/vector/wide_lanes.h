@@ -10,10 +10,6 @@ namespace tav::TAV_VARIANT {
 
 constexpr int max_32s = 0x7FFFFFFF, min_32s = -max_32s - 1;
 
-TAV_INLINE __m128i where(__m128i mask, __m128i yes, __m128i no) {
-  return _mm_or_si128(_mm_and_si128(mask, yes), _mm_andnot_si128(mask, no));
-}
-
 // The limit on the side of each lane's sign.
 TAV_INLINE __m128i limit_32s(__m128i v) { return _mm_xor_si128(_mm_srai_epi32(v, 31), _mm_set1_epi32(max_32s)); }
 
@@ -38,7 +34,7 @@ TAV_INLINE exact_sum difference_of(__m128i a, __m128i b) {
 TAV_INLINE __m128i saturated(const exact_sum& x) {
   // A wrapped sum has the wrong sign.
   const __m128i limit = _mm_xor_si128(_mm_srai_epi32(x.wrapped, 31), _mm_set1_epi32(min_32s));
-  return where(_mm_srai_epi32(x.overflow, 31), limit, x.wrapped);
+  return selected(_mm_srai_epi32(x.overflow, 31), limit, x.wrapped);
 }
 
 // A product of two words, which 32 bits hold with room to round.
@@ -115,7 +111,7 @@ TAV_INLINE __m128i in_order(__m128i lanes_0213) { return _mm_shuffle_epi32(lanes
 TAV_INLINE __m128i saturated(const exact_product& x) {
   const __m128i low = words_of<0>(x), high = words_of<1>(x);
   const __m128i fits = _mm_cmpeq_epi32(high, _mm_srai_epi32(low, 31));
-  return in_order(where(fits, low, limit_32s(high)));
+  return in_order(selected(fits, low, limit_32s(high)));
 }
 
 // The scales: what becomes of an exact number.
@@ -129,7 +125,7 @@ class scaled_up {  // by 1 to 32 bits
 
   template <class X> __m128i of(const X& x) const {
     const __m128i v = saturated(x), shifted = _mm_sll_epi32(v, by_);
-    return where(_mm_cmpeq_epi32(_mm_sra_epi32(shifted, by_), v), shifted, limit_32s(v));
+    return selected(_mm_cmpeq_epi32(_mm_sra_epi32(shifted, by_), v), shifted, limit_32s(v));
   }
 
  private:

@@ -8,7 +8,7 @@ namespace tav::TAV_VARIANT::fft {
 
 // One point has no middle bin to be read.
 template <class Format, class T> half_spectrum<T> spectrum_in(const T* src, size_t n) {
-  return {peek(src), n == 1 ? T(0) : peek(src + Format::middle(n)), src + Format::first_pair};
+  return {peek(src), n == 1 ? T(0) : peek(src + Format::middle(n)), src + Format::first_pair(n)};
 }
 
 template <class Format, class T, class Record>

@@ -1,26 +1,18 @@
-// The three formats of a real signal's spectrum, N = 2^order, by slots:
-//
-//   Perm   X[0], X[N/2], then X[1] ... X[N/2-1] as pairs
-//   Pack   X[0], then X[1] ... X[N/2-1] as pairs, X[N/2]
-//   CCS    X[0] ... X[N/2] as pairs, the parts that are zero written too: N + 2 slots
+// The packed forms as the real transforms use them: what it takes to go from Perm order, which a transform works in, to
+// each of them, and back.
 #pragma once
-#include "frame/registers.h"
+#include "transform/fft/packed_formats.h"
 
 namespace tav::TAV_VARIANT::fft {
 
-// `from_perm` rewrites what a transform has left in Perm order. To be read, a format tells where the middle bin and the
-// first pair stand; the one whose pairs stand elsewhere than in Perm can be moved there.
-struct perm {
-  static constexpr bool          moves      = false;
-  static constexpr size_t        first_pair = 2;
-  static size_t                  middle(size_t) { return 1; }
+// A spectrum is read where it stands, wherever its pairs begin; `moves` says that this is not where Perm has them.
+struct perm : packed::perm_format {
+  static constexpr bool          moves = false;
   template <class T> static void from_perm(T*, size_t) {}
 };
 
-struct pack {
-  static constexpr bool          moves      = true;
-  static constexpr size_t        first_pair = 1;
-  static size_t                  middle(size_t n) { return n - 1; }
+struct pack : packed::pack_format {
+  static constexpr bool          moves = true;
   template <class T> static void from_perm(T* x, size_t n) {
     if (n <= 2) return;
     const T last = peek(x + 1);
@@ -35,10 +27,8 @@ struct pack {
   }
 };
 
-struct ccs {
-  static constexpr bool          moves      = false;
-  static constexpr size_t        first_pair = 2;
-  static size_t                  middle(size_t n) { return n; }
+struct ccs : packed::ccs_format {
+  static constexpr bool          moves = false;
   template <class T> static void from_perm(T* x, size_t n) {
     if (n > 1) {
       poke(x + n, peek(x + 1));
