@@ -1,151 +1,78 @@
-// Complex transforms of power-of-two length, interleaved and split, beside FFTW built for SSE2.
-#include <fftw3.h>
-
-#include <memory>
-
-#include "harness.h"
+// Complex transforms of power-of-two length, interleaved and split, and what their set-up costs.
+#include "fft.h"
 
 namespace bench {
 namespace {
 
-// FFTW in both precisions under one name.
-struct singles {
-  using part                    = Tav32f;
-  using sample                  = Tav32fc;
-  using context                 = FftContext_C_32fc;
-  using split_context           = FftContext_C_32f;
-  using plan                    = fftwf_plan;
-  static constexpr auto destroy = fftwf_destroy_plan;
-  static constexpr auto execute = fftwf_execute;
-
-  static constexpr auto make = tavsFFTInitAlloc_C_32fc;
-  static constexpr auto free = tavsFFTFree_C_32fc;
-  static constexpr auto size = tavsFFTGetBufSize_C_32fc;
-  static constexpr auto run  = tavsFFTFwd_CToC_32fc;
-  static constexpr auto self = tavsFFTFwd_CToC_32fc_I;
-
-  static constexpr auto split_make = tavsFFTInitAlloc_C_32f;
-  static constexpr auto split_free = tavsFFTFree_C_32f;
-  static constexpr auto split_run  = tavsFFTFwd_CToC_32f;
-
-  static plan interleaved(int n, part* in, part* out) {
-    return fftwf_plan_dft_1d(n, reinterpret_cast<fftwf_complex*>(in), reinterpret_cast<fftwf_complex*>(out),
-                             FFTW_FORWARD, FFTW_MEASURE);
-  }
-  static plan split(int n, part* in, part* out) {
-    const fftwf_iodim length{n, 1, 1};
-    return fftwf_plan_guru_split_dft(1, &length, 0, nullptr, in, in + n, out, out + n, FFTW_MEASURE);
-  }
-};
-
-struct doubles {
-  using part                    = Tav64f;
-  using sample                  = Tav64fc;
-  using context                 = FftContext_C_64fc;
-  using split_context           = FftContext_C_64f;
-  using plan                    = fftw_plan;
-  static constexpr auto destroy = fftw_destroy_plan;
-  static constexpr auto execute = fftw_execute;
-
-  static constexpr auto make = tavsFFTInitAlloc_C_64fc;
-  static constexpr auto free = tavsFFTFree_C_64fc;
-  static constexpr auto size = tavsFFTGetBufSize_C_64fc;
-  static constexpr auto run  = tavsFFTFwd_CToC_64fc;
-  static constexpr auto self = tavsFFTFwd_CToC_64fc_I;
-
-  static constexpr auto split_make = tavsFFTInitAlloc_C_64f;
-  static constexpr auto split_free = tavsFFTFree_C_64f;
-  static constexpr auto split_run  = tavsFFTFwd_CToC_64f;
-
-  static plan interleaved(int n, part* in, part* out) {
-    return fftw_plan_dft_1d(n, reinterpret_cast<fftw_complex*>(in), reinterpret_cast<fftw_complex*>(out), FFTW_FORWARD,
-                            FFTW_MEASURE);
-  }
-  static plan split(int n, part* in, part* out) {
-    const fftw_iodim length{n, 1, 1};
-    return fftw_plan_guru_split_dft(1, &length, 0, nullptr, in, in + n, out, out + n, FFTW_MEASURE);
-  }
-};
-
-template <class P> void fill(typename P::part* x, int n) {
-  for (int i = 0; i < 2 * n; ++i) x[i] = typename P::part((i * 7919 % 1024) / 1024.0 - 0.5);
+// Both write their results to the second array of the pool.
+template <class T, class Duel> bool same_results(Duel& duel, int n) {
+  fill(pooled<T>(0), 2 * size_t(n));  // planning has overwritten it
+  duel.run();
+  const std::vector<T> mine = values_of(pooled<T>(1), 2 * size_t(n));
+  duel.run_peer();
+  return alike(mine, values_of(pooled<T>(1), 2 * size_t(n)));
 }
 
-// The contenders' results differ by rounding only.
-template <class P> bool alike(const typename P::part* a, const typename P::part* b, int n) {
-  double error = 0, size = 0;
-  for (int i = 0; i < 2 * n; ++i) error += (a[i] - b[i]) * double(a[i] - b[i]), size += a[i] * double(a[i]);
-  return error <= 1e-10 * size;
-}
-
-// One length: ours and FFTW's, from the first array of the pool to the others; our work area lies behind.
-template <class P> class length {
+template <class Context, class C, auto* Run, int Sign> class interleaved {
  public:
-  using T = typename P::part;
+  using context                    = Context;
+  using T                          = decltype(C::re);
+  static constexpr int point_bytes = sizeof(C);
 
-  explicit length(int order) : n_(1 << order) {
-    int size = 0;
-    P::make(&context_, order, fftScaleNone, 0);
-    P::split_make(&split_context_, order, fftScaleNone, 0);
-    P::size(context_, &size);
-    work_ = std::make_unique<Tav8u[]>(size_t(size) + 1);
-    plan_ = P::interleaved(n_, in_, out_), split_plan_ = P::split(n_, in_, out_);
-    fill<P>(in_, n_);
-  }
-  ~length() {
-    P::free(context_), P::split_free(split_context_);
-    P::destroy(plan_), P::destroy(split_plan_);
-  }
-  length(const length&)            = delete;
-  length& operator=(const length&) = delete;
+  explicit interleaved(int order)
+      : n_(1 << order), context_(order), peer_(fftw<T>::plan_complex(n_, pairs(0), pairs(1), Sign, FFTW_MEASURE)) {}
 
-  void run() { P::run(samples(in_), samples(out_), context_, work_.get()); }
-  void run_split() { P::split_run(in_, in_ + n_, out_, out_ + n_, split_context_, work_.get()); }
-  void run_peer() { P::execute(plan_); }
-  void run_split_peer() { P::execute(split_plan_); }
-
-  void compare(const row& r, void (length::*ours_run)(), void (length::*peer)()) {
-    (this->*ours_run)();
-    const std::vector<T> mine(out_, out_ + 2 * n_);
-    (this->*peer)();
-    require_same(r, "FFTW", alike<P>(mine.data(), out_, n_));
-  }
+  void run() { Run(in_, out_, context_.get(), context_.work()); }
+  void run_peer() { peer_.execute(); }
+  bool same() { return same_results<T>(*this, n_); }
 
  private:
-  static typename P::sample* samples(T* p) { return reinterpret_cast<typename P::sample*>(p); }
+  static auto* pairs(int array) { return pooled<typename fftw<T>::pair>(array); }
 
-  int                        n_;
-  T *                        in_ = static_cast<T*>(pool(0)), *out_ = static_cast<T*>(pool(1));
-  typename P::context*       context_       = nullptr;
-  typename P::split_context* split_context_ = nullptr;
-  typename P::plan           plan_, split_plan_;
-  std::unique_ptr<Tav8u[]>   work_;
+  int             n_;
+  C *             in_ = pooled<C>(0), *out_ = pooled<C>(1);
+  Context         context_;
+  fftw_plan_of<T> peer_;
 };
 
-template <class P, class L = length<P>>
-void transforms(const char* name, bool split, const std::vector<int>& orders, double (*goal)(int order)) {
-  for (int order : orders) {
-    const std::string place = "2^" + std::to_string(order);
-    row               r{.name = name, .bytes = 2 * sizeof(typename P::sample), .in_cache = goal(order)};
-    r.in_memory = r.in_cache;
-    if (!wanted(r)) return;
-    L          l(order);
-    const auto ours_run = split ? &L::run_split : &L::run, peer = split ? &L::run_split_peer : &L::run_peer;
-    l.compare(r, ours_run, peer);
-    const auto entry_of = [&l](const char* contender, void (L::*run)()) {
-      return entry{contender, [&l, run](benchmark::State& state) {
-                     for (auto _ : state) {
-                       (l.*run)();
-                       benchmark::ClobberMemory();
-                     }
-                   }};
-    };
-    measure_point(r, {sizeof(typename P::sample) << order, place.c_str()}, 1 << order,
-                  {entry_of(ours, ours_run), entry_of("FFTW SSE2", peer)});
-  }
-}
+// FFTW's inverse is the forward transform with the parts exchanged.
+template <class Context, class T, auto* Run, int Sign> class split {
+ public:
+  using context                    = Context;
+  static constexpr int point_bytes = 2 * sizeof(T);
 
-constexpr bool few_registers = sizeof(void*) == 4;
+  explicit split(int order) : n_(1 << order), context_(order), peer_(plan()) {}
+
+  void run() { Run(in_, in_ + n_, out_, out_ + n_, context_.get(), context_.work()); }
+  void run_peer() { peer_.execute(); }
+  bool same() { return same_results<T>(*this, n_); }
+
+ private:
+  typename fftw<T>::plan plan() const {
+    const typename fftw<T>::length points{n_, 1, 1};
+    const int                      re = Sign == FFTW_FORWARD ? 0 : n_, im = n_ - re;
+    return fftw<T>::plan_split(1, &points, 0, nullptr, in_ + re, in_ + im, out_ + re, out_ + im, FFTW_MEASURE);
+  }
+
+  int             n_;
+  T *             in_ = pooled<T>(0), *out_ = pooled<T>(1);
+  Context         context_;
+  fftw_plan_of<T> peer_;
+};
+
+using of_32fc = BENCH_FFT_CONTEXT(C_32fc);
+using of_32f  = BENCH_FFT_CONTEXT(C_32f);
+using of_64fc = BENCH_FFT_CONTEXT(C_64fc);
+using of_64f  = BENCH_FFT_CONTEXT(C_64f);
+
+using forward_32fc = interleaved<of_32fc, Tav32fc, &tavsFFTFwd_CToC_32fc, FFTW_FORWARD>;
+using inverse_32fc = interleaved<of_32fc, Tav32fc, &tavsFFTInv_CToC_32fc, FFTW_BACKWARD>;
+using forward_64fc = interleaved<of_64fc, Tav64fc, &tavsFFTFwd_CToC_64fc, FFTW_FORWARD>;
+using inverse_64fc = interleaved<of_64fc, Tav64fc, &tavsFFTInv_CToC_64fc, FFTW_BACKWARD>;
+using forward_32f  = split<of_32f, Tav32f, &tavsFFTFwd_CToC_32f, FFTW_FORWARD>;
+using inverse_32f  = split<of_32f, Tav32f, &tavsFFTInv_CToC_32f, FFTW_BACKWARD>;
+using forward_64f  = split<of_64f, Tav64f, &tavsFFTFwd_CToC_64f, FFTW_FORWARD>;
+using inverse_64f  = split<of_64f, Tav64f, &tavsFFTInv_CToC_64f, FFTW_BACKWARD>;
 
 double goal_of_singles(int order) {
   if (order <= 4) return few_registers ? 2.5 : 2.0;
@@ -155,18 +82,22 @@ double goal_of_singles(int order) {
   return few_registers ? 1.5 : 1.3;
 }
 double goal_of_doubles(int) { return few_registers ? 1.1 : 1.05; }
-double no_goal(int) { return 0; }
-
-const std::vector<int> all_orders{3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20};
-const std::vector<int> few_orders{4, 6, 8, 10, 12, 14, 16, 18};
 
 }  // namespace
 
 BENCH_FAMILY(fft) {
-  transforms<singles>("FFTFwd_CToC_32fc", false, all_orders, goal_of_singles);
-  transforms<doubles>("FFTFwd_CToC_64fc", false, all_orders, goal_of_doubles);
-  transforms<singles>("FFTFwd_CToC_32f", true, few_orders, no_goal);
-  transforms<doubles>("FFTFwd_CToC_64f", true, few_orders, no_goal);
+  transforms<forward_32fc>("FFTFwd_CToC_32fc", all_orders, goal_of_singles);
+  transforms<inverse_32fc>("FFTInv_CToC_32fc", all_orders, goal_of_singles);
+  transforms<forward_64fc>("FFTFwd_CToC_64fc", all_orders, goal_of_doubles);
+  transforms<inverse_64fc>("FFTInv_CToC_64fc", all_orders, goal_of_doubles);
+  transforms<forward_32f>("FFTFwd_CToC_32f");
+  transforms<inverse_32f>("FFTInv_CToC_32f");
+  transforms<forward_64f>("FFTFwd_CToC_64f");
+  transforms<inverse_64f>("FFTInv_CToC_64f");
+  set_up<forward_32fc>("FFTInitAlloc_C_32fc and Free");
+  set_up<forward_32f>("FFTInitAlloc_C_32f and Free");
+  set_up<forward_64fc>("FFTInitAlloc_C_64fc and Free");
+  set_up<forward_64f>("FFTInitAlloc_C_64f and Free");
 }
 
 }  // namespace bench

@@ -167,7 +167,7 @@ TavStatus tavsFFTInv_CToC_64fc_I(Tav64fc* srcDst, const FftContext_C_64fc* ctx, 
  * @param srcRe real parts, N elements.
  * @param srcIm imaginary parts, N elements.
  * @param dstRe receives the real parts; may be @p srcRe itself if @p dstIm is @p srcIm.
- * @param dstIm receives the imaginary parts.
+ * @param dstIm receives the imaginary parts. The destination must not overlap the source otherwise.
  * @param ctx   a context of this type.
  * @param buf   work area of the size that tavsFFTGetBufSize() tells, at any address; null: the call allocates.
  * @return #tavStatusOk; #tavStatusNullPointer if @p ctx is null; #tavStatusBadContext if it is no live context of this

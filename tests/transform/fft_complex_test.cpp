@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "oracle/fft.h"
-#include "transform/fft_calls.h"
+#include "transform/fft_runs.h"
 
 using namespace test;
 
@@ -12,35 +12,6 @@ namespace {
 template <class F> class FftComplex : public testing::Test {};
 using families = testing::Types<fft_32fc, fft_32f, fft_64fc, fft_64f>;
 TYPED_TEST_SUITE(FftComplex, families);
-
-template <class F> std::vector<typename F::sample> noise(size_t n, uint32_t seed) {
-  source_of_data                  data(seed);
-  std::vector<typename F::sample> x(n);
-  using T      = typename F::part;
-  const auto v = [&] { return T(int32_t(data.bits())) / T(1u << 31); };
-  for (size_t i = 0; i < n; ++i) x[i] = {v(), v()};
-  return x;
-}
-
-// One call in that layout; guards of the arrays and of the work area are looked at.
-template <class F, bool Inverse>
-std::vector<typename F::sample> transformed(const std::vector<typename F::sample>& x, const fft_context<F>& context,
-                                            const fft_layout& l, arena& source_home, arena& home, arena& work_home) {
-  using T               = typename F::part;
-  const size_t        n = x.size();
-  const fft_arrays<F> from{source_home, n}, to{home, n};
-  auto                src = from.place(l.src), dst = to.place(l.dst);
-  from.assign(src, x);
-  to.assign(dst, x);
-  const int    size = context.buf_size();
-  array<Tav8u> work(work_home, size_t(size), {placement::inside, unsigned(l.buf_offset < 0 ? 0 : l.buf_offset)});
-  Tav8u*       buf  = l.buf_offset < 0 ? nullptr : work.data();
-  const T*     read = l.in_place ? dst.data() : src.data();
-  EXPECT_EQ((run_fft<F, Inverse>(read, dst.data(), n, context.get(), buf)), tavStatusOk);
-  EXPECT_EQ(first_difference(from.values(src), x), -1) << "the source was written";
-  EXPECT_TRUE(src.guards_intact() && dst.guards_intact() && work.guards_intact());
-  return to.values(dst);
-}
 
 std::vector<fft_layout> layouts() {
   using p = placement;
@@ -59,15 +30,14 @@ template <class F, bool Inverse> void check_against_definition(int order, int fl
   oracle::transform(right, Inverse ? 1 : -1);
   for (auto& v : right) v *= factor;
 
-  const size_t bytes = n * sizeof(typename F::sample);
-  arena        source_home(bytes + 64), home(bytes + 64), work_home(bytes * 2 + 4096);
+  fft_room<F> room(n);
   each_build<F::forward>([&] {
     const fft_context<F>            context(order, flag);
     std::vector<typename F::sample> first;
     for (const fft_layout& l : layouts()) {
       SCOPED_TRACE(testing::Message() << "order " << order << ", flag " << flag << (Inverse ? ", inverse" : ", forward")
                                       << ", src " << l.src << ", dst " << l.dst << ", in place " << l.in_place);
-      const auto is = transformed<F, Inverse>(x, context, l, source_home, home, work_home);
+      const auto is = room.template run<Inverse>(x, context, l);
       if (first.empty()) {
         first = is;
         ASSERT_LE(oracle::relative_error(is, right), oracle::error_limit<typename F::part>(order));
@@ -103,8 +73,7 @@ TYPED_TEST(FftComplex, FlagsScale) {
 template <class F> void check_long(int order) {
   using T            = typename F::part;
   const size_t     n = size_t(1) << order, at = (n / 8 * 5 + 77) % n;
-  const size_t     bytes = n * sizeof(typename F::sample);
-  arena            source_home(bytes + 64), home(bytes + 64), work_home(bytes + 0x100000);
+  fft_room<F>      room(n);
   const fft_layout plain{{}, {}, false, 0}, in_place{{}, {}, true, 5},
       odd{{placement::inside, 4}, {placement::inside, 4}, false, -1};
   each_build<F::forward>([&] {
@@ -112,16 +81,16 @@ template <class F> void check_long(int order) {
     const fft_context<F>            context(order, fftScaleInverse);
     std::vector<typename F::sample> x(n);
     x[at]                                = {1, 0};
-    const auto                        is = transformed<F, false>(x, context, plain, source_home, home, work_home);
+    const auto                        is = room.template run<false>(x, context, plain);
     std::vector<oracle::wide_complex> right(n);
     for (size_t k = 0; k < n; ++k) right[k] = std::conj(oracle::root_of_unity(uint64_t(k) * at % n, n));
     ASSERT_LE(oracle::relative_error(is, right), oracle::error_limit<T>(order));
 
     x            = noise<F>(n, uint32_t(order));
-    const auto y = transformed<F, false>(x, context, plain, source_home, home, work_home);
-    ASSERT_EQ(first_difference(transformed<F, false>(x, context, in_place, source_home, home, work_home), y), -1);
-    ASSERT_EQ(first_difference(transformed<F, false>(x, context, odd, source_home, home, work_home), y), -1);
-    const auto back = transformed<F, true>(y, context, in_place, source_home, home, work_home);
+    const auto y = room.template run<false>(x, context, plain);
+    ASSERT_EQ(first_difference(room.template run<false>(x, context, in_place), y), -1);
+    ASSERT_EQ(first_difference(room.template run<false>(x, context, odd), y), -1);
+    const auto back = room.template run<true>(y, context, in_place);
     for (size_t i = 0; i < n; ++i) right[i] = {x[i].re, x[i].im};
     ASSERT_LE(oracle::relative_error(back, right), 2 * oracle::error_limit<T>(order));
   });

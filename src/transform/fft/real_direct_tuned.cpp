@@ -1,6 +1,7 @@
 // Real transforms of 1 to 16 points, of doubles to 32: straight-line code without tables.
 #include "transform/fft/direct.h"
 #include "transform/fft/real.h"
+#include "transform/fft/real_sixteen.h"
 #include "transform/fft/recombination.h"
 
 namespace tav::TAV_VARIANT::fft {
@@ -29,40 +30,6 @@ template <bool Scaled, class T> struct slots {
   void put(int i, T v) const { poke(p + i, Scaled ? v * *scale : v); }
 };
 
-// Points that stay in registers, two to each, between a transform and the recombination.
-struct kept_points {
-  using value = float;
-  __m128* r;
-
-  TAV_INLINE kept_points at(size_t points) const { return {r + points / 2}; }
-  TAV_INLINE __m128      columns(size_t i) const { return r[i / 2]; }
-  TAV_INLINE void        put_columns(size_t i, __m128 v) const { r[i / 2] = v; }
-};
-
-// Of registers of points 0 1 and 2 3: points 1 2.
-TAV_INLINE __m128 between(__m128 a, __m128 b) {
-  return _mm_castpd_ps(_mm_shuffle_pd(_mm_castps_pd(a), _mm_castps_pd(b), 1));
-}
-
-// 16 samples, in registers: in memory the bins would be read across the stores of the points, which is slow.
-template <bool Scaled> void sixteen_forward(const float* src, float* dst, const float* scale) {
-  __m128 z[4];
-  direct8<false>(pairs<float>{const_cast<float*>(src)}, result<kept_points, false, Scaled>{{z}, scale});
-  const both_ends<float> x =
-      forward_step<float>({{between(z[0], z[1]), between(z[1], z[2])}, {z[2], z[3]}}, factors_of<float, 16>.forward);
-  write_two(dst + 2, x.low);
-  write_two(dst + 8, x.high);
-  put_real_bins(dst, z[0][0], z[0][1]);
-}
-
-template <bool Scaled> void sixteen_inverse(const half_spectrum<float>& src, float* dst, const float* scale) {
-  const both_ends<float> ends =
-      inverse_step<float>({read_two(src.bins), read_two(src.bins + 6)}, factors_of<float, 16>.inverse);
-  const __m128 first = _mm_setr_ps(src.first + src.middle, src.first - src.middle, 0, 0);
-  __m128       z[4]  = {_mm_movelh_ps(first, ends.low.a), between(ends.low.a, ends.low.b), ends.high.a, ends.high.b};
-  direct8<true>(kept_points{z}, result<pairs<float>, true, Scaled>{{dst}, scale});
-}
-
 template <int Order, bool Scaled, class T> void forward_of(const T* src, T* dst, const T* scale) {
   constexpr int                n = 1 << Order;
   [[maybe_unused]] constexpr T h = constants<T>::h;
@@ -84,7 +51,7 @@ template <int Order, bool Scaled, class T> void forward_of(const T* src, T* dst,
     out.put(2, d0 + p), out.put(3, -d2 - q);
     out.put(4, s0 - s2), out.put(5, s3 - s1);
     out.put(6, d0 - p), out.put(7, d2 - q);
-  } else if constexpr (Order == 4 && columns_of<T> == 2) {
+  } else if constexpr (Order == 4) {
     sixteen_forward<Scaled>(src, dst, scale);
   } else {
     direct<false, Order - 1>(pairs<T>{const_cast<T*>(src)}, result<pairs<T>, false, Scaled>{{dst}, scale});
@@ -119,7 +86,7 @@ template <int Order, bool Scaled, class T> void inverse_of(const half_spectrum<T
     const T p = re1 - re3, q = im1 + im3, o0 = re1 + re3, o1 = h * (p - q), o2 = im3 - im1, o3 = -h * (p + q);
     out.put(0, e0 + o0), out.put(1, e1 + o1), out.put(2, e2 + o2), out.put(3, e3 + o3);
     out.put(4, e0 - o0), out.put(5, e1 - o1), out.put(6, e2 - o2), out.put(7, e3 - o3);
-  } else if constexpr (Order == 4 && columns_of<T> == 2) {
+  } else if constexpr (Order == 4) {
     sixteen_inverse<Scaled>(src, dst, scale);
   } else {
     put_real_bins(dst, first, middle);
