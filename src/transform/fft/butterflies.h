@@ -61,32 +61,55 @@ TAV_INLINE void radix22(In in, size_t row, Out out, size_t step, const T* w) {
   finish4(out, step, even.sum, even.difference, s, d);
 }
 
-// Twiddle-free butterflies over rows. `rows.two(r, low, high)` reads row r and the row half the radix below it; the
-// columns of a register are transformed side by side. Results come in natural order.
-template <bool Inverse, class T, class Rows> TAV_INLINE void rows4(const Rows& rows, int first, int second, reg<T>* y) {
-  reg<T> a, b;
-  rows.two(first, a, b);
-  const reg<T> s0 = a + b, d0 = a - b;
-  rows.two(second, a, b);
-  const reg<T> s1 = a + b, d1 = turned<Inverse, T>(a - b);
-  y[0] = s0 + s1, y[1] = d0 + d1, y[2] = s0 - s1, y[3] = d0 - d1;
+// Twiddle-free butterflies over rows, whose columns are transformed side by side: as pairs or planar. `rows.two(r, low,
+// high)` reads row r and the row half the radix below it. Results come in natural order.
+template <class T> TAV_INLINE planar<T> operator+(planar<T> a, planar<T> b) { return {a.re + b.re, a.im + b.im}; }
+template <class T> TAV_INLINE planar<T> operator-(planar<T> a, planar<T> b) { return {a.re - b.re, a.im - b.im}; }
+template <class T> TAV_INLINE planar<T> times(planar<T> v, const T* p) { return {times(v.re, p), times(v.im, p)}; }
+
+// a plus and minus b turned by a quarter. Planar values are transformed forward only.
+template <bool Inverse, class T> TAV_INLINE void add_turned(reg<T> a, reg<T> b, reg<T>& sum, reg<T>& difference) {
+  const reg<T> t = turned<Inverse, T>(b);
+  sum = a + t, difference = a - t;
+}
+template <bool Inverse, class T>
+TAV_INLINE void add_turned(planar<T> a, planar<T> b, planar<T>& sum, planar<T>& difference) {
+  static_assert(!Inverse);
+  sum = {a.re + b.im, a.im - b.re}, difference = {a.re - b.im, a.im + b.re};
 }
 
-// Of eight rows, results k and k + 4 are sum and difference of even[k] and odd[k].
-template <bool Inverse, class T, class Rows> TAV_INLINE void rows8(const Rows& rows, reg<T>* even, reg<T>* odd) {
-  reg<T> a, b;
-  rows.two(0, a, b);
-  const reg<T> s0 = a + b, d0 = a - b;
-  rows.two(2, a, b);
-  const reg<T> s2 = a + b, d2 = turned<Inverse, T>(a - b);
-  even[0] = s0 + s2, even[2] = s0 - s2, even[1] = d0 + d2, even[3] = d0 - d2;
+template <bool Inverse, class T, class Rows, class V>
+TAV_INLINE void rows4(const Rows& rows, int first, int second, V* y) {
+  V a, b;
+  rows.two(first, a, b);
+  const V s0 = a + b, d0 = a - b;
+  rows.two(second, a, b);
+  const V s1 = a + b, d1 = a - b;
+  y[0] = s0 + s1, y[2] = s0 - s1;
+  add_turned<Inverse, T>(d0, d1, y[1], y[3]);
+}
+
+// The odd results of eight rows are p -+ ir and q -+ is, where p, q, r, s come from the rows by real factors only: a
+// turn of pairs needs a shuffle, and those take the adders' time.
+template <bool Inverse, class T, class Rows, class V> TAV_INLINE void rows8(const Rows& rows, V* y) {
+  V a, b;
   rows.two(1, a, b);
-  const reg<T> s1 = a + b, d1 = a - b;
+  const V s1 = a + b, d1 = a - b;
   rows.two(3, a, b);
-  const reg<T> s3 = a + b, d3 = turned<Inverse, T>(a - b);
-  odd[0] = s1 + s3, odd[2] = turned<Inverse, T>(s1 - s3);
-  odd[1] = turned_by_eighth<Inverse, T>(d1 + d3);
-  odd[3] = turned_by_three_eighths<Inverse, T>(d1 - d3);
+  const V s3 = a + b, d3 = a - b;
+  const V m = times(d1 - d3, constants<T>::half_root), n = times(d1 + d3, constants<T>::half_root);
+  const V t0 = s1 + s3, t2 = s1 - s3;
+  rows.two(2, a, b);
+  const V s2 = a + b, d2 = a - b;
+  const V r = d2 + n, s = d2 - n;
+  rows.two(0, a, b);
+  const V s0 = a + b, d0 = a - b;
+  const V p = d0 + m, q = d0 - m;
+  add_turned<Inverse, T>(p, r, y[1], y[7]);
+  add_turned<Inverse, T>(q, s, y[5], y[3]);
+  const V e0 = s0 + s2, e2 = s0 - s2;
+  y[0] = e0 + t0, y[4] = e0 - t0;
+  add_turned<Inverse, T>(e2, t2, y[2], y[6]);
 }
 
 // Four results of each column of a register, made planar: column 0, and for singles column 1. The inverse exchanges the
@@ -107,12 +130,35 @@ template <bool Inverse, class T> TAV_INLINE void turn_planar(const reg<T>* y, pl
   }
 }
 
-// They go to a and, the second column of singles, to b.
-template <bool Inverse, class T, class Out> TAV_INLINE void put_rows4(Out a, Out b, const reg<T>* y) {
+// Four results of each column to the places of the columns, from pairs or planar values.
+template <bool Inverse, class T, class To> TAV_INLINE void put_rows4(const To& to, int k, const reg<T>* y) {
   planar<T> columns[2];
   turn_planar<Inverse, T>(y, columns);
-  a.put(0, columns[0].re, columns[0].im);
-  (sizeof(T) == 4 ? b : a + 2).put(0, columns[1].re, columns[1].im);
+  (to(0) + k).put(0, columns[0].re, columns[0].im);
+  (sizeof(T) == 4 ? to(1) + k : to(0) + (k + 2)).put(0, columns[1].re, columns[1].im);
+}
+
+TAV_INLINE void turn_square(__m128d* v) {
+  const __m128d a = v[0];
+  v[0] = low_lanes(a, v[1]), v[1] = high_lanes(a, v[1]);
+}
+TAV_INLINE void turn_square(__m128* v) {
+  const __m128 a = low_lanes(v[0], v[1]), b = low_lanes(v[2], v[3]);
+  const __m128 c = high_lanes(v[0], v[1]), d = high_lanes(v[2], v[3]);
+  v[0] = _mm_movelh_ps(a, b), v[1] = _mm_movehl_ps(b, a), v[2] = _mm_movelh_ps(c, d), v[3] = _mm_movehl_ps(d, c);
+}
+
+template <bool Inverse, class T, class To> TAV_INLINE void put_rows4(const To& to, int k, const planar<T>* y) {
+  constexpr int L = lanes<T>;
+#pragma GCC unroll 2
+  for (int i = 0; i < 4; i += L) {
+    reg<T> re[L], im[L];
+#pragma GCC unroll 4
+    for (int c = 0; c < L; ++c) re[c] = y[i + c].re, im[c] = y[i + c].im;
+    turn_square(re), turn_square(im);
+#pragma GCC unroll 4
+    for (int c = 0; c < L; ++c) (to(c) + (k + i)).put(0, re[c], im[c]);
+  }
 }
 
 }  // namespace tav::TAV_VARIANT::fft

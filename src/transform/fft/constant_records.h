@@ -4,22 +4,24 @@
 
 namespace tav::TAV_VARIANT::fft {
 
-// cos(2 pi k / 32) for k = 0 ... 8
-inline constexpr long double cosines_of_32[] = {1.0L,
-                                                0.98078528040323044912618223613423903697L,
-                                                0.92387953251128675612818318939678828682L,
-                                                0.83146961230254523707878837761790575673L,
-                                                0.70710678118654752440084436210484903928L,
-                                                0.55557023301960222474283081394853287438L,
-                                                0.38268343236508977172845998403039886676L,
-                                                0.19509032201612826784828486847702224093L,
-                                                0.0L};
-
-constexpr long double cosine_of_32(int k) {
-  k %= 32;
-  if (k > 16) k = 32 - k;
-  return k <= 8 ? cosines_of_32[k] : -cosines_of_32[16 - k];
+// The terms of a series that starts with x^n / n!.
+constexpr long double series(long double x, long double first, int n) {
+  long double sum = 0;
+  for (long double term = first; n < 30; n += 2, term *= -x * x / ((n - 1) * n)) sum += term;
+  return sum;
 }
+
+// cos(2 pi k / n), n a multiple of 8.
+constexpr long double cosine_of(int k, int n) {
+  constexpr long double turn = 6.28318530717958647692528676655900576839L;
+  k %= n;
+  if (2 * k > n) k = n - k;
+  if (4 * k > n) return -cosine_of(n / 2 - k, n);
+  if (8 * k <= n) return series(turn * k / n, 1, 0);
+  return series(turn * (n / 4 - k) / n, turn * (n / 4 - k) / n, 1);
+}
+
+constexpr long double cosine_of_32(int k) { return cosine_of(k, 32); }
 
 template <class T, int Records> struct record_table {
   T         values[Records * radix4_record<T>];
@@ -41,5 +43,11 @@ template <class T, int Span> constexpr auto radix4_records() {
 
 template <class T> alignas(64) inline constexpr auto record_of_16 = radix4_records<T, 16>();
 template <class T> alignas(64) inline constexpr auto record_of_32 = radix4_records<T, 32>();
+
+// A sixteenth of a turn.
+template <class T> struct sixteenth {
+  static constexpr T c = T(cosine_of(1, 16)), s = T(cosine_of(3, 16));
+  alignas(16) static constexpr T cosine[4] = {c, c, c, c}, sine[4] = {s, s, s, s};
+};
 
 }  // namespace tav::TAV_VARIANT::fft

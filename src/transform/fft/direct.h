@@ -1,7 +1,8 @@
-// Transforms of 1 to 32 points: straight-line code, no tables, no work area.
+// Short transforms: no tables, no work area. Up to 8 doubles and 32 singles straight-line code, then pair_passes.h.
 #pragma once
 #include "transform/fft/engine.h"
 #include "transform/fft/first_pass.h"
+#include "transform/fft/pair_passes.h"
 
 namespace tav::TAV_VARIANT::fft {
 
@@ -61,53 +62,39 @@ template <bool Inverse, class Src, class Out> TAV_INLINE void direct8(Src src, O
       out.put_columns(2 * k + 4, even - turned_odd);
     }
   } else {
-    reg<T> even[4], odd[4];
-    rows8<Inverse, T>(distant_rows<Src, 8>{src, 1}, even, odd);
-#pragma GCC unroll 4
-    for (int k = 0; k < 4; ++k) out.put_columns(k, even[k] + odd[k]);
-#pragma GCC unroll 4
-    for (int k = 0; k < 4; ++k) out.put_columns(k + 4, even[k] - odd[k]);
+    reg<T> y[8];
+    rows8<Inverse, T>(distant_rows<Src, 8>{src, 1}, y);
+#pragma GCC unroll 8
+    for (int k = 0; k < 8; ++k) out.put_columns(k, y[k]);
   }
 }
 
-// The functions with a block of memory are not inlined: a stack that has to be aligned would burden the short ones.
-
-template <bool Inverse, class Src, class Out> __attribute__((noinline)) void direct16_of_doubles(Src src, Out out) {
-  alignas(64) double   block[32];
-  const groups<double> inner{block};
-#pragma GCC unroll 4
-  for (int j = 0; j < 4; ++j) sixteen_first<Inverse>(distant_rows<Src, 16>{src, 1}, j, inner, inner);
-  sixteen_second(inner, out);
-}
-
-// In singles all fits registers, with columns 2 and 3 first.
+// All fits registers, with columns 2 and 3 first.
 template <bool Inverse, class Src, class Out> TAV_INLINE void direct16(Src src, Out out) {
-  using T = typename Out::value;
-  if constexpr (columns_of<T> == 2) {
-    constexpr const T* w = record_of_16<T>;
-    planar<T>          low[2], high[2];
-    reg<T>             y[4];
-    rows4<Inverse, T>(distant_rows<Src, 4>{src + 2, 4}, 0, 1, y);
-    turn_planar<Inverse, T>(y, high);
-    const planar<T> c = product(high[0], w + 2 * twiddle_size<T>), d = product(high[1], w + twiddle_size<T>);
-    rows4<Inverse, T>(distant_rows<Src, 4>{src, 4}, 0, 1, y);
-    turn_planar<Inverse, T>(y, low);
-    const planar<T> a = low[0], b = product(low[1], w);
-    const both<T>   even = sum_and_difference(a, c), odd = sum_and_difference(b, d);
-    finish4(out, 4, even.sum, even.difference, odd.sum, odd.difference);
-  } else {
-    direct16_of_doubles<Inverse>(src, out);
-  }
+  using T              = float;
+  constexpr const T* w = record_of_16<T>;
+  planar<T>          low[2], high[2];
+  reg<T>             y[4];
+  rows4<Inverse, T>(distant_rows<Src, 4>{src + 2, 4}, 0, 1, y);
+  turn_planar<Inverse, T>(y, high);
+  const planar<T> c = product(high[0], w + 2 * twiddle_size<T>), d = product(high[1], w + twiddle_size<T>);
+  rows4<Inverse, T>(distant_rows<Src, 4>{src, 4}, 0, 1, y);
+  turn_planar<Inverse, T>(y, low);
+  const planar<T> a = low[0], b = product(low[1], w);
+  const both<T>   even = sum_and_difference(a, c), odd = sum_and_difference(b, d);
+  finish4(out, 4, even.sum, even.difference, odd.sum, odd.difference);
 }
 
+// Not inlined: a stack that has to be aligned for the block would burden the shorter ones.
 template <bool Inverse, class Src, class Out> __attribute__((noinline)) void direct32(Src src, Out out) {
   using T              = typename Out::value;
-  constexpr int   step = columns_of<T>;
+  constexpr int   step = gathered<Src, 8>::columns;
   alignas(64) T   block[64];
   const groups<T> inner{block};
 #pragma GCC unroll 4
   for (int c = 0; c < 4; c += step)
-    eight<Inverse>(distant_rows<Src, 8>{src + c, 4}, inner + 8 * c, inner + 8 * (c + step - 1));
+    few<Inverse, 8, typename gathered<Src, 8>::value, T>(distant_rows<Src, 8>{src + c, 4},
+                                                         [=](int i) { return inner + 8 * (c + i); });
 #pragma GCC unroll 4
   for (int k = 0; k < 8; k += lanes<T>)
     radix4(inner + k, 16, 8, 24, out + k, 8, record_of_32<T> + k / lanes<T> * radix4_record<T>);
@@ -119,8 +106,12 @@ template <bool Inverse, int Order, class Src, class Out> TAV_INLINE void direct(
   if constexpr (Order == 1) direct2(src, out);
   if constexpr (Order == 2) direct4<Inverse>(src, out);
   if constexpr (Order == 3) direct8<Inverse>(src, out);
-  if constexpr (Order == 4) direct16<Inverse>(src, out);
-  if constexpr (Order == 5) direct32<Inverse>(src, out);
+  if constexpr (sizeof(typename Out::value) == 8 && Order >= 4)
+    pair_passes<Inverse, Order>(src, out);
+  else if constexpr (Order == 4)
+    direct16<Inverse>(src, out);
+  else if constexpr (Order == 5)
+    direct32<Inverse>(src, out);
 }
 
 template <class T> using direct_pairs_kernel = void (*)(const T* src, T* dst, const T* scale);
@@ -140,19 +131,31 @@ void direct_split(const T* src_re, const T* src_im, T* dst_re, T* dst_im, const 
                        result<view, false, Scaled>{{dst_re, dst_im}, scale});
 }
 
-#define TAV_BY_ORDER(kernel, ...)                                                                   \
-  {                                                                                                 \
-    kernel<__VA_ARGS__, 0>, kernel<__VA_ARGS__, 1>, kernel<__VA_ARGS__, 2>, kernel<__VA_ARGS__, 3>, \
-        kernel<__VA_ARGS__, 4>, kernel<__VA_ARGS__, 5>                                              \
+template <bool Inverse, bool Scaled, int Order, class T> constexpr direct_pairs_kernel<T> pairs_kernel() {
+  if constexpr (Order <= pairs_kernels_to<T>) return direct_pairs<Inverse, Scaled, Order, T>;
+  return nullptr;
+}
+template <bool Scaled, int Order, class T> constexpr direct_split_kernel<T> split_kernel() {
+  if constexpr (Order <= split_kernels_to<T>) return direct_split<Scaled, Order, T>;
+  return nullptr;
+}
+
+inline constexpr int kernels = 9;  // as many orders as any type has
+
+#define TAV_BY_ORDER(kernel, ...)                                                              \
+  {                                                                                            \
+    kernel<__VA_ARGS__, 0, T>(), kernel<__VA_ARGS__, 1, T>(), kernel<__VA_ARGS__, 2, T>(),     \
+        kernel<__VA_ARGS__, 3, T>(), kernel<__VA_ARGS__, 4, T>(), kernel<__VA_ARGS__, 5, T>(), \
+        kernel<__VA_ARGS__, 6, T>(), kernel<__VA_ARGS__, 7, T>(), kernel<__VA_ARGS__, 8, T>()  \
   }
 // Static: an inline table of pointers would become a symbol of the library's.
 template <class T>
-static constexpr direct_pairs_kernel<T> direct_pairs_kernels[2][2][6] = {
-    {TAV_BY_ORDER(direct_pairs, false, false), TAV_BY_ORDER(direct_pairs, false, true)},
-    {TAV_BY_ORDER(direct_pairs, true, false), TAV_BY_ORDER(direct_pairs, true, true)}};
+static constexpr direct_pairs_kernel<T> direct_pairs_kernels[2][2][kernels] = {
+    {TAV_BY_ORDER(pairs_kernel, false, false), TAV_BY_ORDER(pairs_kernel, false, true)},
+    {TAV_BY_ORDER(pairs_kernel, true, false), TAV_BY_ORDER(pairs_kernel, true, true)}};
 template <class T>
-static constexpr direct_split_kernel<T> direct_split_kernels[2][6] = {TAV_BY_ORDER(direct_split, false),
-                                                                      TAV_BY_ORDER(direct_split, true)};
+static constexpr direct_split_kernel<T> direct_split_kernels[2][kernels] = {TAV_BY_ORDER(split_kernel, false),
+                                                                            TAV_BY_ORDER(split_kernel, true)};
 #undef TAV_BY_ORDER
 
 template <class T> void run_short_pairs(int order, direction towards, const T* scale, const T* src, T* dst) {

@@ -36,7 +36,7 @@ template <class T> transform<T> transform_of(const fft_record<T>& r, direction t
 template <class T> void run_pairs(const transform<T>& t, const T* src, T* dst);
 template <class T> void run_split(const transform<T>& t, const T* src_re, const T* src_im, T* dst_re, T* dst_im);
 
-// Short transforms, orders up to direct_to, need no more than this.
+// Short transforms, orders up to pairs_kernels_to and split_kernels_to, need no more than this.
 template <class T> void run_short_pairs(int order, direction towards, const T* scale, const T* src, T* dst);
 template <class T>
 void run_short_split(int order, direction towards, const T* scale, const T* src_re, const T* src_im, T* dst_re,

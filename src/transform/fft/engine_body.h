@@ -1,6 +1,6 @@
 // The complex transform: which way a call takes.
 //
-//   order up to 5 ............... straight-line code (direct.h)
+//   short ....................... kernels of one order each (direct.h, pair_passes.h)
 //   a work area for all points .. the first pass gathers into it (or straight into an aligned dst), the last stage
 //                                 writes the caller's layout to dst
 //   otherwise ................... all passes on dst itself; from elsewhere the first pass gathers, in place the points
@@ -79,7 +79,7 @@ template <bool Inverse, class View, class T> void run_scaled(View src, View dst,
 }
 
 template <class T> void run_pairs(const transform<T>& t, const T* src, T* dst) {
-  if (t.order <= direct_to) return run_short_pairs(t.order, t.towards, t.scale, src, dst);
+  if (t.order <= pairs_kernels_to<T>) return run_short_pairs(t.order, t.towards, t.scale, src, dst);
   const pairs<T> from{const_cast<T*>(src)}, to{dst};
   if (t.towards == direction::inverse)
     run_scaled<true>(from, to, t);
@@ -89,7 +89,8 @@ template <class T> void run_pairs(const transform<T>& t, const T* src, T* dst) {
 
 // The inverse is the forward transform of points with their parts exchanged.
 template <class T> void run_split(const transform<T>& t, const T* src_re, const T* src_im, T* dst_re, T* dst_im) {
-  if (t.order <= direct_to) return run_short_split(t.order, t.towards, t.scale, src_re, src_im, dst_re, dst_im);
+  if (t.order <= split_kernels_to<T>)
+    return run_short_split(t.order, t.towards, t.scale, src_re, src_im, dst_re, dst_im);
   T *const re = const_cast<T*>(src_re), *const im = const_cast<T*>(src_im);
   if (t.towards == direction::inverse)
     run_scaled<false>(split<T>{im, re}, split<T>{dst_im, dst_re}, t);

@@ -1,5 +1,5 @@
-// The first pass: transforms of 8 points (odd orders) or 16 (even orders) without a table, from the caller's layout to
-// the planar one of the stages.
+// The first pass: transforms of 8 points (odd orders) or 16 or 4 (even orders) without a table, from the caller's
+// layout to the planar one of the stages.
 //
 // It comes in two forms that do the same arithmetic. The gathering one reads its rows straight from data in natural
 // order, so that no reordering pass is needed; the other finds the data in bit-reversed order and may write where it
@@ -10,21 +10,35 @@
 
 namespace tav::TAV_VARIANT::fft {
 
-// Points that a first pass transforms at once: so the stages of radix 4 that follow come out even.
-inline constexpr int first_radix(int order) { return order % 2 == 0 ? 16 : 8; }
-inline constexpr int first_levels(int order) { return order % 2 == 0 ? 4 : 3; }
+// Points that a first pass transforms at once: so the stages of radix 4 that follow come out even. In doubles a stage
+// costs less than the second layer of radix 16, while all of them are in the first-level cache.
+template <class T> inline constexpr int four_to = sizeof(T) == 4 ? 0 : 10;
+template <class T> constexpr int first_levels(int order) { return order % 2 != 0 ? 3 : order <= four_to<T> ? 2 : 4; }
+template <class T> constexpr int first_radix(int order) { return 1 << first_levels<T>(order); }
 
 template <class T> inline constexpr int columns_of = lanes<T> / 2;  // points of a register of pairs
 
+// What a first pass computes on, and how many columns that holds: pairs as they lie, other layouts planar. Radix 8 does
+// not fit eight registers if it is planar.
+template <class Src, int Radix> struct gathered {
+  using T                       = typename Src::value;
+  static constexpr bool plane   = !std::is_same_v<Src, pairs<T>> && (sizeof(void*) == 8 || Radix != 8);
+  static constexpr int  columns = plane ? lanes<T> : columns_of<T>;
+  using value                   = std::conditional_t<plane, planar<T>, reg<T>>;
+};
+
 // Rows of natural order, `distance` points apart; their columns are neighbours in memory.
 template <class Src, int Radix> struct distant_rows {
+  using T = typename Src::value;
   Src    src;
   size_t distance;
 
+  static TAV_INLINE void take(Src at, reg<T>& v) { v = at.columns(0); }
+  static TAV_INLINE void take(Src at, planar<T>& v) { v = at.get(0); }
+
   template <class V> TAV_INLINE void two(int r, V& low, V& high) const {
     const Src at = src.at(r * distance);
-    low          = at.columns(0);
-    high         = at.at(Radix / 2 * distance).columns(0);
+    take(at, low), take(at.at(Radix / 2 * distance), high);
   }
 };
 
@@ -52,23 +66,24 @@ template <class Src, int Radix> struct neighbouring_rows {
   }
 };
 
-// Radix 8 on the columns of one register; the first goes to a, the second to b.
-template <bool Inverse, class Rows, class Out, class T = typename Out::value>
-TAV_INLINE void eight(const Rows& rows, Out a, Out b) {
-  reg<T> even[4], odd[4], y[4];
-  rows8<Inverse, T>(rows, even, odd);
-  y[0] = even[0] + odd[0], y[1] = even[1] + odd[1], y[2] = even[2] + odd[2], y[3] = even[3] + odd[3];
-  put_rows4<Inverse, T>(a, b, y);
-  y[0] = even[0] - odd[0], y[1] = even[1] - odd[1], y[2] = even[2] - odd[2], y[3] = even[3] - odd[3];
-  put_rows4<Inverse, T>(a + 4, b + 4, y);
+// Radix 4 or 8 on the columns of one value V; column c goes to to(c).
+template <bool Inverse, int Radix, class V, class T, class Rows, class To>
+TAV_INLINE void few(const Rows& rows, const To& to) {
+  V y[Radix];
+  if constexpr (Radix == 4)
+    rows4<Inverse, T>(rows, 0, 1, y);
+  else
+    rows8<Inverse, T>(rows, y);
+#pragma GCC unroll 2
+  for (int k = 0; k < Radix; k += 4) put_rows4<Inverse, T>(to, k, y + k);
 }
 
 // The first layer of radix 16, rows j, j + 4, j + 8, j + 12: to points 4j ... of each column's 16.
-template <bool Inverse, class Rows, class Out, class T = typename Out::value>
-TAV_INLINE void sixteen_first(const Rows& rows, int j, Out a, Out b) {
-  reg<T> y[4];
+template <bool Inverse, class V, class T, class Rows, class To>
+TAV_INLINE void sixteen_first(const Rows& rows, int j, const To& to) {
+  V y[4];
   rows4<Inverse, T>(rows, j, j + 4, y);
-  put_rows4<Inverse, T>(a + 4 * j, b + 4 * j, y);
+  put_rows4<Inverse, T>(to, 4 * j, y);
 }
 
 // The second layer, on one column.
@@ -100,11 +115,15 @@ template <int Radix, int Columns, class Out> TAV_INLINE void ask_ahead(Out out, 
 // One visit: a cache line of columns from each row.
 template <bool Inverse, int Radix, int Columns, class Src, class Out, class T = typename Out::value>
 TAV_INLINE void visit(Src src, size_t distance, Out out, const streams<Columns>& target) {
-  constexpr int step = columns_of<T>;
-  if constexpr (Radix == 8) {
+  using V            = typename gathered<Src, Radix>::value;
+  constexpr int step = gathered<Src, Radix>::columns;
+  if constexpr (Radix < 16) {
 #pragma GCC unroll 4
     for (int c = 0; c < Columns; c += step)
-      eight<Inverse>(distant_rows<Src, 8>{src + c, distance}, out.at(target.at[c]), out.at(target.at[c + step - 1]));
+      few<Inverse, Radix, V, T>(
+          distant_rows<Src, Radix>{src + c, distance}, [&](int i) __attribute__((always_inline)) {
+            return out.at(target.at[c + i]);
+          });
   } else {
     alignas(64) T   block[32 * Columns];
     const groups<T> inner{block};
@@ -112,8 +131,9 @@ TAV_INLINE void visit(Src src, size_t distance, Out out, const streams<Columns>&
     for (int j = 0; j < 4; ++j)
 #pragma GCC unroll 4
       for (int c = 0; c < Columns; c += step)
-        sixteen_first<Inverse>(distant_rows<Src, 16>{src + c, distance}, j, inner + 16 * c,
-                               inner + 16 * (c + step - 1));
+        sixteen_first<Inverse, V, T>(
+            distant_rows<Src, 16>{src + c, distance},
+            j, [&](int i) __attribute__((always_inline)) { return inner + 16 * (c + i); });
 #pragma GCC unroll 1
     for (int c = 0; c < Columns; ++c) sixteen_second(inner + 16 * c, out.at(target.at[c]));
   }
@@ -134,7 +154,7 @@ class reversed_counter {
 };
 
 // Split data of long transforms: all rows, in both arrays, fall into one set of the first-level cache, so each line is
-// read once, into a block of pairs, and the visit reads that.
+// read once, into a block, and the visit reads that.
 struct straight {
   template <int Radix, int Columns, class Src, class Visit>
   static TAV_INLINE void read_rows(Src src, size_t distance, const Visit& visit) {
@@ -144,8 +164,9 @@ struct straight {
 struct by_block {
   template <int Radix, int Columns, class T, class Visit>
   static TAV_INLINE void read_rows(split<T> src, size_t distance, const Visit& visit) {
-    alignas(64) T  rows[Radix * Columns * 2];
-    const pairs<T> block{rows};
+    alignas(64) T rows[Radix * Columns * 2];
+    using view = std::conditional_t<gathered<split<T>, Radix>::plane, groups<T>, pairs<T>>;
+    const view block{rows};
 #pragma GCC unroll 1
     for (size_t r = 0; r < Radix; ++r, src = src + distance)
 #pragma GCC unroll 4
@@ -183,7 +204,7 @@ __attribute__((noinline)) void gather(Src src, Out out, size_t n, size_t lines) 
 template <class Reading, bool Inverse, int Columns, class Src, class Out>
 void gather_by_radix(Src src, Out out, int order, size_t lines) {
   const size_t n = size_t(1) << order;
-  if (first_radix(order) == 8)
+  if (order % 2 != 0)
     gather<Reading, Inverse, 8, Columns>(src, out, n, lines);
   else
     gather<Reading, Inverse, 16, Columns>(src, out, n, lines);
@@ -193,37 +214,81 @@ void gather_by_radix(Src src, Out out, int order, size_t lines) {
 template <class T> inline constexpr int line_of_pairs = 64 / (2 * sizeof(T));
 template <class T> inline constexpr int line_of_parts = 64 / sizeof(T);
 
+// Lengths whose rows do not crowd a cache: with a constant length all addresses of a visit are displacements.
+template <bool Inverse, int Order, class Src, class Out, class T = typename Out::value>
+__attribute__((noinline)) void gather_of(Src src, Out out) {
+  constexpr int    radix = first_radix<T>(Order), columns = line_of_pairs<T>;
+  constexpr size_t n = size_t(1) << Order, visits = n / (radix * columns);
+  using on = gathered<Src, radix>;
+  reversed_counter from(visits);
+#pragma GCC unroll 1
+  for (size_t v = 0; v < visits; ++v, from.next(), out = out + radix) {
+    const Src here = src + columns * from.value();
+#pragma GCC unroll 4
+    for (int c = 0; c < columns; c += on::columns) {
+      const auto to = [=](int i) __attribute__((always_inline)) {
+        return out + reversed_index(c + i, columns) * (n / columns);
+      };
+      few<Inverse, radix, typename on::value, T>(distant_rows<Src, radix>{here + c, n / radix}, to);
+    }
+  }
+}
+
+// Whether the order is one of those, and then its first pass.
+template <bool Inverse, int... Orders, class Src, class Out> bool gather_one_of(Src src, Out out, int order) {
+  return ((order == Orders && (gather_of<Inverse, Orders>(src, out), true)) || ...);
+}
+
 template <bool Inverse, class T, class Out> void first_pass_gathering(pairs<T> src, Out out, int order, size_t lines) {
-  if (order == 6) return gather<straight, Inverse, 16, 4>(src, out, 64, 1);
+  if constexpr (sizeof(T) == 8) {
+    if (gather_one_of<Inverse, 9, 10, 11>(src, out, order)) return;
+  } else {
+    if (order == 6) return gather<straight, Inverse, 16, 4>(src, out, 64, 1);
+  }
   gather_by_radix<straight, Inverse, line_of_pairs<T>>(src, out, order, lines);
 }
 
 inline constexpr int by_block_from = 12;
 
 template <bool Inverse, class T, class Out> void first_pass_gathering(split<T> src, Out out, int order, size_t lines) {
-  if (order == 6) return gather<straight, Inverse, 16, 4>(src, out, 64, 1);
-  if (order < by_block_from) return gather_by_radix<straight, Inverse, line_of_pairs<T>>(src, out, order, lines);
+  if constexpr (sizeof(T) == 8) {
+    if (gather_one_of<Inverse, 7, 8, 9, 10, 11>(src, out, order)) return;
+  } else {
+    if (order == 6) return gather<straight, Inverse, 16, 4>(src, out, 64, 1);
+    if constexpr (!gathered<split<T>, 8>::plane)
+      if (gather_one_of<Inverse, 7, 9>(src, out, order)) return;
+    if (order < by_block_from) return gather_by_radix<straight, Inverse, line_of_pairs<T>>(src, out, order, lines);
+  }
   gather_by_radix<by_block, Inverse, line_of_parts<T>>(src, out, order, lines);
 }
 
 // From bit-reversed order; out may be src.
-template <bool Inverse, class Src, class Out, class T = typename Out::value>
-__attribute__((noinline)) void first_pass_in_order(Src src, Out out, int order) {
-  constexpr int step = columns_of<T>;
-  const size_t  n    = size_t(1) << order;
-  if (first_radix(order) == 8) {
-    for (size_t i = 0; i < n; i += 8 * step, src = src + 8 * step, out = out + 8 * step)
-      eight<Inverse>(neighbouring_rows<Src, 8>{src}, out, out + 8);
-    return;
-  }
-  alignas(64) T   block[32 * step];
-  const groups<T> inner{block};
-  for (size_t i = 0; i < n; i += 16 * step, src = src + 16 * step, out = out + 16 * step) {
+template <bool Inverse, int Radix, class Src, class Out, class T = typename Out::value>
+__attribute__((noinline)) void in_order(Src src, Out out, size_t n) {
+  constexpr int step = columns_of<T>, size = Radix * step;
+  if constexpr (Radix < 16) {
+    for (size_t i = 0; i < n; i += size, src = src + size, out = out + size)
+      few<Inverse, Radix, reg<T>, T>(neighbouring_rows<Src, Radix>{src}, [=](int c) { return out + c * Radix; });
+  } else {
+    alignas(64) T   block[2 * size];
+    const groups<T> inner{block};
+    for (size_t i = 0; i < n; i += size, src = src + size, out = out + size) {
 #pragma GCC unroll 4
-    for (int j = 0; j < 4; ++j) sixteen_first<Inverse>(neighbouring_rows<Src, 16>{src}, j, inner, inner + 16);
+      for (int j = 0; j < 4; ++j)
+        sixteen_first<Inverse, reg<T>, T>(neighbouring_rows<Src, 16>{src}, j, [=](int c) { return inner + 16 * c; });
 #pragma GCC unroll 2
-    for (int c = 0; c < step; ++c) sixteen_second(inner + 16 * c, out + 16 * c);
+      for (int c = 0; c < step; ++c) sixteen_second(inner + 16 * c, out + 16 * c);
+    }
   }
+}
+
+template <bool Inverse, class Src, class Out, class T = typename Out::value>
+void first_pass_in_order(Src src, Out out, int order) {
+  const size_t n = size_t(1) << order;
+  if (order % 2 != 0) return in_order<Inverse, 8>(src, out, n);
+  if constexpr (four_to<T> != 0)
+    if (order <= four_to<T>) return in_order<Inverse, 4>(src, out, n);
+  in_order<Inverse, 16>(src, out, n);
 }
 
 }  // namespace tav::TAV_VARIANT::fft

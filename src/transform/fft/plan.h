@@ -14,9 +14,15 @@ struct fft_sizes {
 
 namespace tav::TAV_VARIANT::fft {
 
-// Up to these orders the complex and the real transforms are straight-line code without tables.
+// Up to these orders the complex and the real transforms are straight-line code without tables, and their records have
+// no room for any.
 inline constexpr int                    direct_to      = 5;
 template <class T> inline constexpr int real_direct_to = sizeof(T) == 4 ? 4 : 5;
+
+// Up to these, kernels of one order each do without the record's tables. In doubles two passes over pairs come first,
+// shorter ones of split data, whose results take two stores each there.
+template <class T> inline constexpr int pairs_kernels_to = sizeof(T) == 4 ? direct_to : 8;
+template <class T> inline constexpr int split_kernels_to = sizeof(T) == 4 ? direct_to : 6;
 
 template <class T> inline constexpr const fft_plan& plan_of = sizeof(T) == 4 ? tune.fft_single : tune.fft_double;
 

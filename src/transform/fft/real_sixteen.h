@@ -15,8 +15,8 @@ namespace tav::TAV_VARIANT::fft {
 
 struct sixteenths {  // cos and sin of 2 pi n / 16
   static constexpr float  h = constants<float>::h;
-  static constexpr __m128 cosine{1, float(cosines_of_32[2]), h, float(cosines_of_32[6])};
-  static constexpr __m128 sine{0, float(cosines_of_32[6]), h, float(cosines_of_32[2])};
+  static constexpr __m128 cosine{1, float(cosine_of(1, 16)), h, float(cosine_of(3, 16))};
+  static constexpr __m128 sine{0, float(cosine_of(3, 16)), h, float(cosine_of(1, 16))};
 };
 
 template <bool Scaled> void put_sixteen(float* dst, __m128 a, __m128 b, __m128 c, __m128 d, const float* scale) {
@@ -73,7 +73,7 @@ template <bool Scaled> void sixteen_inverse(const half_spectrum<float>& src, flo
 struct points_of_sixteen {
   using V = __m128d;
 
-  static constexpr double c = double(cosines_of_32[2]), s = double(cosines_of_32[6]), h = constants<double>::h;
+  static constexpr double c = double(cosine_of(1, 16)), s = double(cosine_of(3, 16)), h = constants<double>::h;
   static constexpr V      conjugate{1, -1};
 
   TAV_INLINE static V low(V a, V b) { return _mm_unpacklo_pd(a, b); }

@@ -35,6 +35,8 @@ __attribute__((noinline)) void stage_of_any(In in, Out out, size_t n, size_t spa
 // With a constant span the addresses are displacements: worth code of its own for the spans that nearly all work is in.
 template <class In, class Out, class T = typename In::value>
 void stage(In in, Out out, size_t n, size_t span, const T* table) {
+  if constexpr (four_to<T> != 0)
+    if (span == 16) return stage_of<16>(in, out, n, table);
   switch (span) {
     case 32:
       return stage_of<32>(in, out, n, table);
@@ -60,7 +62,7 @@ template <class T> struct stage_plan {
   const T* table;
   size_t   first_span;
 
-  stage_plan(const T* stages, int order) : table(stages), first_span(size_t(4) * first_radix(order)) {}
+  stage_plan(const T* stages, int order) : table(stages), first_span(size_t(4) * first_radix<T>(order)) {}
 
   // A stage has 3/2 values a point, and each span is four times the one before: together half a value a point.
   const T* records(size_t span) const { return table + (span - first_span) / 2; }
@@ -104,7 +106,7 @@ void combine(Mid mid, Out out, int order, const fft_tables<T>& tables) {
     for (size_t i = 0; i < n; i += n / 16) combine(mid + i, mid + i, order - 4, inner);
     return column_pass(mid, out, n, tables.columns);
   }
-  const size_t        first = size_t(first_radix(order));
+  const size_t        first = size_t(first_radix<T>(order));
   const stage_plan<T> plan(tables.stages, order);
   stages_up_to(mid, n, first, n / 4, plan);
   stage(mid, out, n, n, plan.records(n));

@@ -23,7 +23,7 @@ template <class T> TavStatus make_wave(int order, Tav8u* init, quarter_wave<T>* 
 }
 
 template <class T> void put_stages(twiddle_writer<T>& writer, int order) {
-  for (int span = first_levels(order) + 2; span <= order; span += 2)
+  for (int span = first_levels<T>(order) + 2; span <= order; span += 2)
     for (size_t k = 0; k < size_t(1) << (span - 2); k += lanes<T>)
       for (int power : {1, 3, 2}) writer.put(span, k, power);
 }

@@ -31,6 +31,11 @@ TAV_INLINE __m128d read(const double* p) {
   __asm__("movupd %1, %0" : "=x"(v) : "m"(*reinterpret_cast<const __m128d_u*>(p)));
   return v;
 }
+TAV_INLINE __m128d read_twice(const double* p) {
+  __m128d v;
+  __asm__("movddup %1, %0" : "=x"(v) : "m"(*p));
+  return v;
+}
 TAV_INLINE void write(float* p, __m128 v) { _mm_storeu_ps(p, v); }
 TAV_INLINE void write(double* p, __m128d v) { _mm_storeu_pd(p, v); }
 
@@ -77,8 +82,6 @@ template <class T> struct constants {
 
   alignas(16) static constexpr T half[4]           = {T(0.5), T(0.5), T(0.5), T(0.5)};
   alignas(16) static constexpr T half_root[4]      = {h, h, h, h};
-  alignas(16) static constexpr T half_root_alt[4]  = {h, -h, h, -h};
-  alignas(16) static constexpr T half_root_inv[4]  = {-h, h, -h, h};
   alignas(16) static constexpr word negative_re[4] = {sign, 0, sign, 0};
   alignas(16) static constexpr word negative_im[4] = {0, sign, 0, sign};
   alignas(16) static constexpr word negative[4]    = {sign, sign, sign, sign};
@@ -87,18 +90,6 @@ template <class T> struct constants {
 // On pairs, a quarter turn in the direction of the transform: times -i forward, times i inverse.
 template <bool Inverse, class T, class V> TAV_INLINE V turned(V v) {
   return flipped(swapped(v), Inverse ? constants<T>::negative_re : constants<T>::negative_im);
-}
-
-// An eighth turn in that direction, and three of them.
-template <bool Inverse, class T, class V> TAV_INLINE V turned_by_eighth(V v) {
-  const V other = swapped(v);
-  return times(v, constants<T>::half_root)
-         + times(other, Inverse ? constants<T>::half_root_inv : constants<T>::half_root_alt);
-}
-template <bool Inverse, class T, class V> TAV_INLINE V turned_by_three_eighths(V v) {
-  const V other = swapped(v);
-  return times(other, Inverse ? constants<T>::half_root_inv : constants<T>::half_root_alt)
-         - times(v, constants<T>::half_root);
 }
 
 }  // namespace tav::TAV_VARIANT::fft
