@@ -1,6 +1,6 @@
 #include "plain_convert.h"
 
-#include <xmmintrin.h>
+#include <emmintrin.h>
 
 namespace plain {
 namespace {
@@ -22,6 +22,13 @@ void to_nearest(const float* __restrict src, Tav32s* __restrict dst, int n) {
   }
 }
 
+void to_nearest(const double* __restrict src, double multiplier, Tav32s* __restrict dst, int n) {
+  for (int i = 0; i < n; ++i) {
+    const double v = src[i] * multiplier;
+    dst[i]         = v >= 0x1p31 ? INT32_MAX : v < -0x1p31 ? INT32_MIN : _mm_cvtsd_si32(_mm_set_sd(v));
+  }
+}
+
 void toward_zero(const float* __restrict src, Tav16s* __restrict dst, int n) {
   for (int i = 0; i < n; ++i) dst[i] = Tav16s(int(limited(src[i])));
 }
@@ -39,6 +46,7 @@ void saturate(const Tav32s* __restrict src, Tav16s* __restrict dst, int n) {
 }
 
 template void convert(const Tav16s*, Tav32f*, int);
+template void convert(const Tav32s*, Tav64f*, int);
 template void convert(const Tav8u*, Tav32f*, int);
 
 }  // namespace plain

@@ -6,6 +6,7 @@ namespace plain {
 
 void to_nearest(const float* src, float multiplier, Tav16s* dst, int n);
 void to_nearest(const float* src, Tav32s* dst, int n);
+void to_nearest(const double* src, double multiplier, Tav32s* dst, int n);
 void toward_zero(const float* src, Tav16s* dst, int n);
 void ties_away(const float* src, Tav16s* dst, int n);  // but for what lies right below a half
 

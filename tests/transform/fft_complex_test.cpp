@@ -56,7 +56,7 @@ TYPED_TEST(FftComplex, IsTheDefinition) {
 }
 
 TYPED_TEST(FftComplex, FlagsScale) {
-  for (int order : {0, 1, 2, 3, 4, 5, 6, 7, 9, 12}) {
+  for (int order = 0; order <= 12; ++order) {
     const long double n = 1 << order;
     check_against_definition<TypeParam, false>(order, fftScaleForward, 1 / n);
     check_against_definition<TypeParam, true>(order, fftScaleForward, 1);

@@ -10,17 +10,22 @@ template <class C> auto* parts_of(C* p) {
   return reinterpret_cast<std::conditional_t<std::is_const_v<C>, const part*, part*>>(p);
 }
 
+// Apart, so that the short transforms do not pay for its frame.
+template <direction Towards, class C, class Record>
+__attribute__((noinline)) TavStatus interleaved_with_area(const C* src, C* dst, const Record* ctx, Tav8u* buf) {
+  const auto&       r = opened(ctx);
+  const work_buffer work(buf, r.buf_size);
+  if (work.failed()) return tavStatusNoMemory;
+  run_pairs(transform_of(r, Towards, r.order, work.data()), parts_of(src), parts_of(dst));
+  return tavStatusOk;
+}
+
 template <direction Towards, class C, class Record>
 TavStatus interleaved(const C* src, C* dst, const Record* ctx, Tav8u* buf) {
   if (const TavStatus bad = check_transform<id_of<Record>>(ctx, src, dst)) return bad;
   const auto& r = opened(ctx);
-  if (r.order <= direct_to) {
-    run_short_pairs(r.order, Towards, scale_towards(r, Towards), parts_of(src), parts_of(dst));
-    return tavStatusOk;
-  }
-  const work_buffer work(buf, r.buf_size);
-  if (work.failed()) return tavStatusNoMemory;
-  run_pairs(transform_of(r, Towards, r.order, work.data()), parts_of(src), parts_of(dst));
+  if (r.order > direct_to) return interleaved_with_area<Towards>(src, dst, ctx, buf);
+  run_short_pairs(r.order, Towards, scale_towards(r, Towards), parts_of(src), parts_of(dst));
   return tavStatusOk;
 }
 

@@ -1,6 +1,7 @@
 // The complex transform: which way a call takes.
 //
 //   short ....................... kernels of one order each (direct.h, pair_passes.h)
+//   up to 12, pairs of singles .. code for that very length (fixed.h), which goes the next way
 //   a work area for all points .. the first pass gathers into it (or straight into an aligned dst), the last stage
 //                                 writes the caller's layout to dst
 //   otherwise ................... all passes on dst itself; from elsewhere the first pass gathers, in place the points
@@ -9,26 +10,13 @@
 // Each way does the same arithmetic on the same values, so the results agree bit for bit.
 #pragma once
 #include "transform/fft/bit_reversal.h"
-#include "transform/fft/engine.h"
-#include "transform/fft/stages.h"
+#include "transform/fft/fixed.h"
 
 namespace tav::TAV_VARIANT::fft {
 
 // What a layout is in the stages, if they work on the caller's memory.
 template <class T> groups<T> planar_view(pairs<T> view) { return {view.p}; }
 template <class T> split<T>  planar_view(split<T> view) { return view; }
-
-template <class T> bool same_place(pairs<T> a, pairs<T> b) { return a.p == b.p; }
-template <class T> bool same_place(split<T> a, split<T> b) {
-  return a.re == b.re || a.im == b.im || a.re == b.im || a.im == b.re;
-}
-
-// Where the points can be in the layout of the stages until the last one writes them to dst.
-template <class T> T* stage_area(pairs<T> src, pairs<T> dst, T* work) {
-  const bool aligned = reinterpret_cast<uintptr_t>(dst.p) % 16 == 0;
-  return aligned && !same_place(src, dst) ? dst.p : work;
-}
-template <class T> T* stage_area(split<T>, split<T>, T* work) { return work; }
 
 template <class T> void reordered(pairs<T> src, pairs<T> dst, int order) {
   struct point {
@@ -78,13 +66,19 @@ template <bool Inverse, class View, class T> void run_scaled(View src, View dst,
     run<Inverse, exchanged, false>(src, dst, t);
 }
 
-template <class T> void run_pairs(const transform<T>& t, const T* src, T* dst) {
-  if (t.order <= pairs_kernels_to<T>) return run_short_pairs(t.order, t.towards, t.scale, src, dst);
+template <class T> __attribute__((noinline)) void run_long_pairs(const transform<T>& t, const T* src, T* dst) {
   const pairs<T> from{const_cast<T*>(src)}, to{dst};
   if (t.towards == direction::inverse)
     run_scaled<true>(from, to, t);
   else
     run_scaled<false>(from, to, t);
+}
+
+template <class T> void run_pairs(const transform<T>& t, const T* src, T* dst) {
+  if (t.order <= pairs_kernels_to<T>) return run_short_pairs(t.order, t.towards, t.scale, src, dst);
+  if constexpr (has_fixed<T>)
+    if (t.order <= fixed_to) return run_fixed(t, src, dst);
+  run_long_pairs(t, src, dst);
 }
 
 // The inverse is the forward transform of points with their parts exchanged.

@@ -42,8 +42,9 @@ template <class Src, int Radix> struct distant_rows {
   }
 };
 
-inline constexpr int reversed_index(int i, int size) {
+TAV_INLINE constexpr int reversed_index(int i, int size) {
   int r = 0;
+#pragma GCC unroll 4
   for (int bit = 1; bit < size; bit *= 2) r = 2 * r + (i & bit ? 1 : 0);
   return r;
 }
@@ -96,7 +97,7 @@ template <class In, class Out, class T = typename In::value> TAV_INLINE void six
 // Where the columns of a visit go: column c to stream reversed(c) of the output.
 template <int Columns> struct streams {
   size_t at[Columns];
-  explicit streams(size_t apart) {
+  constexpr explicit streams(size_t apart) : at{} {
     for (int c = 0; c < Columns; ++c) at[c] = reversed_index(c, Columns) * apart;
   }
 };

@@ -24,6 +24,10 @@ template <class T> inline constexpr int real_direct_to = sizeof(T) == 4 ? 4 : 5;
 template <class T> inline constexpr int pairs_kernels_to = sizeof(T) == 4 ? direct_to : 8;
 template <class T> inline constexpr int split_kernels_to = sizeof(T) == 4 ? direct_to : 6;
 
+// Up to this one interleaved points of some precisions have code for their very length.
+inline constexpr int                     fixed_to  = 12;
+template <class T> inline constexpr bool has_fixed = sizeof(T) == 4;
+
 template <class T> inline constexpr const fft_plan& plan_of = sizeof(T) == 4 ? tune.fft_single : tune.fft_double;
 
 inline constexpr size_t whole_lines(size_t bytes) { return bytes & ~size_t(63); }

@@ -32,9 +32,15 @@ __attribute__((noinline)) void stage_of_any(In in, Out out, size_t n, size_t spa
   stage_of_span(in, out, n, span, table);
 }
 
+// Results that only stages of long spans write here: the short ones are in fixed.h.
+template <class Out> inline constexpr bool is_long_result = false;
+template <class T, bool Exchanged, bool Scaled>
+inline constexpr bool is_long_result<result<pairs<T>, Exchanged, Scaled>> = has_fixed<T>;
+
 // With a constant span the addresses are displacements: worth code of its own for the spans that nearly all work is in.
 template <class In, class Out, class T = typename In::value>
 void stage(In in, Out out, size_t n, size_t span, const T* table) {
+  if constexpr (is_long_result<Out>) return stage_of_any(in, out, n, span, table);
   if constexpr (four_to<T> != 0)
     if (span == 16) return stage_of<16>(in, out, n, table);
   switch (span) {
