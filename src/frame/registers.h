@@ -22,12 +22,8 @@ template <class T> TAV_INLINE T peek(const T* p) {
 template <class T> TAV_INLINE void poke(T* p, T v) { __builtin_memcpy(static_cast<void*>(p), &v, sizeof v); }
 
 // The type of a complex element's parts, or a real element's own.
-template <class T> struct part_of_element { using type = T; };
-template <class T>
-concept with_parts = requires(T v) {
-  v.re;
-};
-template <with_parts T> struct part_of_element<T> { using type = decltype(T::re); };
+template <class T, class = void> struct part_of_element { using type = T; };
+template <class T> struct part_of_element<T, std::void_t<decltype(T::re)>> { using type = decltype(T::re); };
 template <class T> using part_of = typename part_of_element<T>::type;
 
 enum class access { unaligned, aligned, streaming };
@@ -125,7 +121,9 @@ template <access A, int N, class T> TAV_INLINE group<T, N> load(const T* p) {
 template <access A, class T, class R> TAV_INLINE void store(T* p, R v) { store_bits<A>(p, as_bits(v)); }
 
 template <access A, class T, class R, int K> TAV_INLINE void store(T* p, several<R, K> v) {
-#pragma GCC                                                  unroll 8
+// clang-format off
+#pragma GCC unroll 8
+  // clang-format on
   for (int k = 0; k < K; ++k) store_bits<A>(p + k * lanes<T>, as_bits(v.r[k]));
 }
 

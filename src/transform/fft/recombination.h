@@ -73,7 +73,9 @@ TAV_INLINE void step_of_bins(const T* low, const T* high, T* low_out, T* high_ou
 
 // Calls step(k, w) for bins k + 1 ... k + L up to `bins`, which is a multiple of L, with their factors: from a table...
 template <class T, class Step> TAV_INLINE void each_listed(const T* table, size_t bins, const Step& step) {
-#pragma GCC                                    unroll 1
+// clang-format off
+#pragma GCC unroll 1
+  // clang-format on
   for (size_t k = 0; k < bins; k += lanes<T>) step(k, table + 2 * k);
 }
 
