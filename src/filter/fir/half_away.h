@@ -4,19 +4,9 @@
 #include <limits>
 
 #include "filter/fir/samples.h"
+#include "filter/output_scale.h"
 
 namespace tav::TAV_VARIANT::fir {
-
-// 2^-s by its exponent field, from the low seven bits of |s|: 128 means 0 again, and 2^-127 of singles is 0.
-template <class F> F scale_of(int s) {
-  constexpr bool single = sizeof(F) == 4;
-  using word            = std::conditional_t<single, uint32_t, uint64_t>;
-  const int  down       = s >= 0 ? s & 127 : -int(-uint32_t(s) & 127);
-  const word bits       = word((single ? 127 : 1023) - down) << (single ? 23 : 52);
-  F          f;
-  __builtin_memcpy(&f, &bits, sizeof f);
-  return f;
-}
 
 // NaN: what the processor's conversion makes of it.
 template <class I> I nearest_away(Tav64f v) {
@@ -33,7 +23,7 @@ class half_away {
 
   template <class S, class D> void operator()(const S* sums, D* dst, size_t n) const {
     using F       = part<S>;
-    const F scale = scale_of<F>(factor_);
+    const F scale = output_scale<F>(factor_);
     for (size_t i = 0; i < n * parts<S>; ++i)
       poke(parts_of(dst) + i, nearest_away<part<D>>(Tav64f(parts_of(sums)[i] * scale)));
   }

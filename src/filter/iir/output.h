@@ -4,19 +4,11 @@
 // Parts of complex samples go by themselves. Integers need a round_to_nearest scope around the call.
 #pragma once
 #include "filter/iir/traits.h"
+#include "filter/output_scale.h"
 #include "vector/forms.h"
 #include "vector/to_integer.h"
 
 namespace tav::TAV_VARIANT::iir {
-
-// 2^-s. Only the low 7 bits of the magnitude of s count: the factors 128 and -128 act as 0, and in single precision
-// 127 makes a multiplier of 0.
-template <class F> F multiplier(int s) {
-  using word                = std::conditional_t<sizeof(F) == 4, Tav32u, Tav64u>;
-  constexpr unsigned counts = 127, bias = sizeof(F) == 4 ? 127 : 1023, fraction = sizeof(F) == 4 ? 23 : 52;
-  const unsigned     field = s >= 0 ? bias - (unsigned(s) & counts) : bias + (-unsigned(s) & counts);
-  return __builtin_bit_cast(F, word(field) << fraction);
-}
 
 TAV_INLINE __m128i rounded(__m128 v, float lowest, float highest) {
   return _mm_cvtps_epi32(limited(v, lowest, highest));
@@ -73,7 +65,7 @@ template <class State> auto output_stage(int scaleFactor) {
   using F = part<arithmetic_of<State>>;
   using D = part<data_of<State>>;
   if constexpr (std::is_integral_v<D>)
-    return to_integers<F, D>(multiplier<F>(scaleFactor));
+    return to_integers<F, D>(output_scale<F>(scaleFactor));
   else
     return doubles_as_singles{};
 }
