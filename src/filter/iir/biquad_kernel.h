@@ -6,8 +6,28 @@
 
 namespace tav::TAV_VARIANT::iir {
 
-// What a section has seen last; the newest two of each count.
-template <class A> struct alignas(16) section_history { A x[look_ahead], y[look_ahead]; };
+// The last two inputs and outputs of a section, in order.
+template <class A> struct section_history { A x[2], y[2]; };
+
+// As the second half of four samples, made without a detour through memory; the first half is never looked at.
+template <class A> TAV_INLINE quad<A> as_last(const A (&v)[2]) {
+  quad<A> q{};
+  if constexpr (std::is_same_v<A, Tav32f>)
+    q.r[0] = _mm_setr_ps(0, 0, v[0], v[1]);
+  else if constexpr (std::is_same_v<A, Tav32fc>)
+    q.r[1] = _mm_setr_ps(v[0].re, v[0].im, v[1].re, v[1].im);
+  else if constexpr (std::is_same_v<A, Tav64f>)
+    q.r[1] = _mm_setr_pd(v[0], v[1]);
+  else
+    q.r[2] = _mm_setr_pd(v[0].re, v[0].im), q.r[3] = _mm_setr_pd(v[1].re, v[1].im);
+  return q;
+}
+
+template <class A> TAV_INLINE void keep_last(A (&to)[2], quad<A> q) {
+  alignas(16) A v[look_ahead];
+  store_quad(v, q);
+  to[0] = v[look_ahead - 2], to[1] = v[look_ahead - 1];
+}
 
 // Adds what sample K of four contributes to four outputs.
 template <class A, int Row, int K> TAV_INLINE void add_row(quad<A>& sum, const section_rows<A>& rows, quad<A> v) {
@@ -41,6 +61,7 @@ TAV_INLINE quad<A> next_four(const section_rows<A>& rows, quad<A> x_before, quad
 
 // Sections of one channel over a stretch of data.
 template <class A> struct section_run {
+  const A*               taps;
   const section_rows<A>* rows;
   section_history<A>*    history;
   const A*               src;
@@ -48,11 +69,12 @@ template <class A> struct section_run {
 };
 
 // Whole groups of four. A section's inputs are the outputs of the section before it, so these histories have to agree.
-template <class A, int Channels, int Sections> void run_fours(const section_run<A> (&run)[Channels], size_t fours) {
+template <class A, int Channels, int Sections>
+TAV_INLINE void run_fours(const section_run<A> (&run)[Channels], size_t fours) {
   quad<A> before[Channels][Sections + 1];
   for (int c = 0; c < Channels; ++c) {
-    before[c][0] = load_quad(run[c].history[0].x);
-    for (int s = 0; s < Sections; ++s) before[c][s + 1] = load_quad(run[c].history[s].y);
+    before[c][0] = as_last(run[c].history[0].x);
+    for (int s = 0; s < Sections; ++s) before[c][s + 1] = as_last(run[c].history[s].y);
   }
   for (size_t i = 0; i < fours * look_ahead; i += look_ahead)
 #pragma GCC unroll 2
@@ -69,39 +91,36 @@ template <class A, int Channels, int Sections> void run_fours(const section_run<
     }
   for (int c = 0; c < Channels; ++c)
     for (int s = 0; s < Sections; ++s) {
-      store_quad(run[c].history[s].x, before[c][s]);
-      store_quad(run[c].history[s].y, before[c][s + 1]);
+      keep_last(run[c].history[s].x, before[c][s]);
+      keep_last(run[c].history[s].y, before[c][s + 1]);
     }
 }
 
-template <class A> void shift_in(A (&before)[look_ahead], const A (&v)[look_ahead], size_t count) {
-  for (size_t k = 0; k < look_ahead; ++k)
-    before[k] = k + count < look_ahead ? before[k + count] : v[k + count - look_ahead];
+template <class A> TAV_INLINE A next_one(const A* taps, section_history<A>& h, A x) {
+  const A of_inputs = plus(plus(times(taps[2], h.x[0]), times(taps[1], h.x[1])), times(taps[0], x));
+  const A y         = minus(minus(of_inputs, times(taps[4], h.y[0])), times(taps[3], h.y[1]));
+  h                 = {{h.x[1], x}, {h.y[1], y}};
+  return y;
 }
 
-// Up to four samples; here the histories need not agree. What comes out behind the last sample is none, and must not
-// reach the next section: it might be infinite.
-template <class A> void run_few(const section_run<A>& run, int sections, size_t len) {
-  alignas(16) A v[look_ahead] = {};
-  for (size_t k = 0; k < len; ++k) v[k] = peek(run.src + k);
-  for (int s = 0; s < sections; ++s) {
-    section_history<A>& h = run.history[s];
-    const quad<A>       y = next_four<A>(run.rows[s], load_quad(h.x), load_quad(v), load_quad(h.y));
-    shift_in(h.x, v, len);
-    store_quad(v, y);
-    for (size_t k = len; k < look_ahead; ++k) v[k] = {};
-    shift_in(h.y, v, len);
+// The few samples in front of groups of four and behind them, one by one. Here the histories need not agree.
+template <class A, int Sections> TAV_INLINE void run_few(const section_run<A>& run, size_t len) {
+  for (size_t i = 0; i < len; ++i) {
+    A v = peek(run.src + i);
+#pragma GCC unroll 2
+    for (int s = 0; s < Sections; ++s) v = next_one(run.taps + section_taps * s, run.history[s], v);
+    poke(run.dst + i, v);
   }
-  for (size_t k = 0; k < len; ++k) poke(run.dst + k, v[k]);
 }
 
-template <class A, int Channels, int Sections> void run_sections(section_run<A> (&run)[Channels], size_t len) {
+template <class A, int Channels, int Sections>
+TAV_INLINE void run_sections(section_run<A> (&run)[Channels], size_t len) {
   if (len >= look_ahead) run_fours<A, Channels, Sections>(run, len / look_ahead);
   const size_t left = len % look_ahead;
   if (left == 0) return;
   for (section_run<A>& r : run) {
     r.src += len - left, r.dst += len - left;
-    run_few(r, Sections, left);
+    run_few<A, Sections>(r, left);
   }
 }
 

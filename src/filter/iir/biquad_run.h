@@ -18,12 +18,13 @@ template <class A> TAV_INLINE A section_sample(const A* taps, A* d, A x) {
 struct transposed_form {
   static constexpr size_t entries = transposed_entries;
 
-  template <class A> static size_t begin(const section_run<A>& run, const A* taps, const A* d, int sections, size_t) {
-    A x0 = peek(run.src), x1 = peek(run.src + 1);
-    for (int s = 0; s < sections; ++s, taps += section_taps, d += entries) {
+  template <int Sections, class A> TAV_INLINE static size_t begin(const section_run<A>& run, const A* d, size_t) {
+    const A* taps = run.taps;
+    A        x0 = peek(run.src), x1 = peek(run.src + 1);
+    for (int s = 0; s < Sections; ++s, taps += section_taps, d += entries) {
       const A y0     = plus(times(taps[0], x0), d[0]);
       const A y1     = minus(plus(plus(times(taps[0], x1), d[1]), times(taps[1], x0)), times(taps[3], y0));
-      run.history[s] = {{A{}, A{}, x0, x1}, {A{}, A{}, y0, y1}};
+      run.history[s] = {{x0, x1}, {y0, y1}};
       x0 = y0, x1 = y1;
     }
     poke(run.dst, x0), poke(run.dst + 1, x1);
@@ -31,27 +32,27 @@ struct transposed_form {
   }
 
   template <class A> static void end(const section_history<A>& h, const A* taps, A* d) {
-    d[0] = plus(times(taps[1], h.x[3]), times(taps[2], h.x[2]));
-    d[1] = times(taps[2], h.x[3]);
-    d[0] = minus(minus(d[0], times(taps[3], h.y[3])), times(taps[4], h.y[2]));
-    d[1] = minus(d[1], times(taps[4], h.y[3]));
+    d[0] = plus(times(taps[1], h.x[1]), times(taps[2], h.x[0]));
+    d[1] = times(taps[2], h.x[1]);
+    d[0] = minus(minus(d[0], times(taps[3], h.y[1])), times(taps[4], h.y[0]));
+    d[1] = minus(d[1], times(taps[4], h.y[1]));
   }
 };
 
-// Direct form 1: x[n-2], x[n-1], y[n-2], y[n-1]. Whatever the lines hold, after a few samples the outputs of a section
+// Direct form 1: x[n-2], x[n-1], y[n-2], y[n-1]. Whatever the lines hold, after two samples the outputs of a section
 // are the inputs of the next one.
 struct direct_form {
   static constexpr size_t entries = direct_entries;
 
-  template <class A> static size_t begin(const section_run<A>& run, const A*, const A* d, int sections, size_t n) {
-    for (int s = 0; s < sections; ++s, d += entries) run.history[s] = {{A{}, A{}, d[0], d[1]}, {A{}, A{}, d[2], d[3]}};
-    const size_t head = n < look_ahead ? n : look_ahead;
-    run_few(run, sections, head);
+  template <int Sections, class A> TAV_INLINE static size_t begin(const section_run<A>& run, const A* d, size_t n) {
+    for (int s = 0; s < Sections; ++s, d += entries) run.history[s] = {{d[0], d[1]}, {d[2], d[3]}};
+    const size_t head = n < 2 ? n : 2;
+    run_few<A, Sections>(run, head);
     return head;
   }
 
   template <class A> static void end(const section_history<A>& h, const A*, A* d) {
-    d[0] = h.x[2], d[1] = h.x[3], d[2] = h.y[2], d[3] = h.y[3];
+    d[0] = h.x[0], d[1] = h.x[1], d[2] = h.y[0], d[3] = h.y[1];
   }
 };
 
@@ -63,8 +64,8 @@ void run_pass(const channels<A, Channels>& data, size_t first, size_t n) {
   size_t             head = 0;
   for (int k = 0; k < Channels; ++k) {
     const cascade<A>& c = *data.of[k];
-    run[k]              = {c.rows + first, history[k], data.src[k], data.dst[k]};
-    head = Form::begin(run[k], c.taps + section_taps * first, c.delay + Form::entries * first, Sections, n);
+    run[k]              = {c.taps + section_taps * first, c.rows + first, history[k], data.src[k], data.dst[k]};
+    head                = Form::template begin<Sections>(run[k], c.delay + Form::entries * first, n);
     run[k].src += head, run[k].dst += head;
   }
   run_sections<A, Channels, Sections>(run, n - head);
