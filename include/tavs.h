@@ -23,6 +23,7 @@
 #include "tavs/convert.h"
 #include "tavs/division.h"
 #include "tavs/fft.h"
+#include "tavs/fft_flags.h"
 #include "tavs/fft_integer.h"
 #include "tavs/fft_real.h"
 #include "tavs/fft_real_integer.h"

@@ -6,6 +6,7 @@
 #define TAVS_FFT_H
 
 #include "contexts.h"
+#include "fft_flags.h"
 #include "status.h"
 #include "types.h"
 
@@ -19,20 +20,12 @@ extern "C" {
  *  number of threads at once. It comes from tavsFFTInitAlloc(), which takes the memory it needs and which tavsFFTFree()
  *  gives back, or from tavsFFTInit(), which works in memory of the caller's.
  *
- *  With @p x the source, the forward transform is X[k] = sum over n of x[n] exp(-2 pi i n k / N), the inverse one has the
- *  other sign of the exponent; the flag of the context tells which of them multiplies by what.
+ *  With @p x the source, the forward transform is X[k] = sum over n of x[n] exp(-2 pi i n k / N), the inverse one has
+ * the other sign of the exponent; the flag of the context tells which of them multiplies by what.
  *
  *  A transform may need a work area. tavsFFTGetBufSize() tells its size; at any address will do, and it belongs to one
  *  call at a time. Without one (a null pointer) the call allocates.
  *  @{ */
-
-/** Where the factor of a transform of N points is applied: the @p flag of a context. */
-enum {
-  fftScaleForward = 1, /**< forward, 1/N */
-  fftScaleInverse = 2, /**< inverse, 1/N */
-  fftScaleBoth    = 4, /**< both, 1/sqrt(N) */
-  fftScaleNone    = 8  /**< neither */
-};
 
 /** @name tavsFFTGetSize, complex
  *  @{ */

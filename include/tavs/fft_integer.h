@@ -6,7 +6,7 @@
 #define TAVS_FFT_INTEGER_H
 
 #include "contexts.h"
-#include "fft.h"
+#include "fft_flags.h"
 #include "status.h"
 #include "types.h"
 

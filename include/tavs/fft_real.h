@@ -5,8 +5,10 @@
 #ifndef TAVS_FFT_REAL_H
 #define TAVS_FFT_REAL_H
 
-#include "fft.h"
-#include "spectra.h"
+#include "contexts.h"
+#include "fft_flags.h"
+#include "status.h"
+#include "types.h"
 
 #ifdef __cplusplus
 extern "C" {

@@ -6,8 +6,7 @@
 #define TAVS_FFT_REAL_INTEGER_H
 
 #include "contexts.h"
-#include "fft_integer.h"
-#include "fft_real.h"
+#include "fft_flags.h"
 #include "status.h"
 #include "types.h"
 
