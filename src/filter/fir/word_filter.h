@@ -16,14 +16,14 @@ void run_words(const word_record<Tap, D>& r, const D* x, D* y, size_t n, const w
     for (size_t i = 0; i < n; ++i) stage.put(one_sum(x + i, r.list, steps), y + i);
     return;
   }
-  const auto done = [&](const D* from, D* to) {
-    return [&stage, from, to](size_t i, __m128i low, __m128i high) {
+  const auto done = [&stage](D* to) {
+    return [&stage, to](size_t i, __m128i low, __m128i high) {
       store<access::unaligned>(to + i, stage.words(low, high));
     };
   };
-  run_groups(x, r.list, steps, n, done(x, y));
+  run_groups(x, r.list, steps, n, done(y));
   const size_t last = n - outputs;  // the group that ends with the last output overlaps the one before
-  if (n % outputs != 0) run_groups(x + last, r.list, steps, outputs, done(x + last, y + last));
+  if (n % outputs != 0) run_groups(x + last, r.list, steps, outputs, done(y + last));
 }
 
 // The last N samples up to `end` become the delay line.
