@@ -68,7 +68,7 @@ struct arbitrary_order {
     r.delay                     = block.take<A>(n + 1, multiple);
     r.taps                      = block.take<A>(2 * n + 1, multiple);
     r.numerator                 = block.take<A>(ar_room<A>::tables(n, mixed));
-    r.look_ahead                = r.numerator + (n + 1) * factor<A>::samples;
+    r.look_ahead                = iir_block::inside(r.numerator, (n + 1) * factor<A>::samples);
     r.scratch                   = block.take<A>(block_samples);
     if (mixed) r.history = block.take<A>(block_samples);
   }

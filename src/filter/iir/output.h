@@ -56,7 +56,8 @@ template <class F, class D> struct to_integers : types<F, F, D> {
 struct doubles_as_singles : types<Tav64f, Tav64f, Tav32f> {
   static constexpr kernel_shape shape{.vector_from = 7, .round_bytes = 16};
 
-  static Tav32f one(Tav64f a) { return Tav32f(a); }
+  // Spelled out: a double that a function has returned on 32 bits may be narrowed in another unit, with its own mode.
+  static Tav32f one(Tav64f a) { return _mm_cvtss_f32(_mm_cvtsd_ss(_mm_setzero_ps(), _mm_set_sd(a))); }
   static __m128 many(several<__m128d, 2> v) { return _mm_movelh_ps(_mm_cvtpd_ps(v.r[0]), _mm_cvtpd_ps(v.r[1])); }
 };
 

@@ -45,6 +45,10 @@ class iir_block {
     at_ += (count * sizeof(T) + multiple - 1) & ~(multiple - 1);
     return table;
   }
+  // Where element i of a table lies: an address, since a table may be too long to exist.
+  template <class T> static T* inside(T* table, uint64_t i) {
+    return reinterpret_cast<T*>(uintptr_t(reinterpret_cast<uintptr_t>(table) + i * sizeof(T)));
+  }
   uint64_t end() const { return at_; }  // 64 bits on every target, so that a size that does not fit shows
 
  private:
