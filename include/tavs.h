@@ -33,6 +33,7 @@
 #include "tavs/formats.h"
 #include "tavs/iir.h"
 #include "tavs/iir_biquad.h"
+#include "tavs/iir_direct.h"
 #include "tavs/logic.h"
 #include "tavs/memory.h"
 #include "tavs/move.h"
