@@ -79,6 +79,17 @@ TAV_INLINE __m128d selected(__m128d mask, __m128d yes, __m128d no) {
   return _mm_or_pd(_mm_and_pd(mask, yes), _mm_andnot_pd(mask, no));
 }
 
+// The parts of each pair exchanged: pshufd copies and exchanges in one instruction.
+TAV_INLINE __m128i parts_exchanged(__m128i v) { return _mm_shuffle_epi32(v, 0xB1); }
+TAV_INLINE __m128  parts_exchanged(__m128 v) { return _mm_castsi128_ps(parts_exchanged(_mm_castps_si128(v))); }
+TAV_INLINE __m128d parts_exchanged(__m128d v) { return _mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(v), 0x4E)); }
+
+// Of two registers in a row, every other lane.
+TAV_INLINE __m128  even_lanes(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, 0x88); }
+TAV_INLINE __m128d even_lanes(__m128d a, __m128d b) { return _mm_unpacklo_pd(a, b); }
+TAV_INLINE __m128  odd_lanes(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, 0xDD); }
+TAV_INLINE __m128d odd_lanes(__m128d a, __m128d b) { return _mm_unpackhi_pd(a, b); }
+
 // 2, 4 or 8 bytes in the low part of a register, the rest zero.
 template <int Bytes> TAV_INLINE __m128i load_low(const void* p) {
   if constexpr (Bytes == 8) {

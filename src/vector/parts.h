@@ -22,10 +22,10 @@ TAV_INLINE __m128i all_re(several<__m128i, 2> v) {
 TAV_INLINE __m128i all_im(several<__m128i, 2> v) {
   return _mm_unpackhi_epi64(halves_of_words(v.r[0]), halves_of_words(v.r[1]));
 }
-TAV_INLINE __m128  all_re(several<__m128, 2> v) { return _mm_shuffle_ps(v.r[0], v.r[1], _MM_SHUFFLE(2, 0, 2, 0)); }
-TAV_INLINE __m128  all_im(several<__m128, 2> v) { return _mm_shuffle_ps(v.r[0], v.r[1], _MM_SHUFFLE(3, 1, 3, 1)); }
-TAV_INLINE __m128d all_re(several<__m128d, 2> v) { return _mm_unpacklo_pd(v.r[0], v.r[1]); }
-TAV_INLINE __m128d all_im(several<__m128d, 2> v) { return _mm_unpackhi_pd(v.r[0], v.r[1]); }
+TAV_INLINE __m128  all_re(several<__m128, 2> v) { return even_lanes(v.r[0], v.r[1]); }
+TAV_INLINE __m128  all_im(several<__m128, 2> v) { return odd_lanes(v.r[0], v.r[1]); }
+TAV_INLINE __m128d all_re(several<__m128d, 2> v) { return even_lanes(v.r[0], v.r[1]); }
+TAV_INLINE __m128d all_im(several<__m128d, 2> v) { return odd_lanes(v.r[0], v.r[1]); }
 
 // And back.
 TAV_INLINE several<__m128i, 2> in_pairs(__m128i re, __m128i im) {

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <thread>
 
+#include "transform/fft_integer_calls.h"
 #include "transform/fft_runs.h"
 
 using namespace test;
@@ -15,6 +16,14 @@ constexpr int thread_count = 8;
 template <class F> class FftThreads : public testing::Test {};
 using families = testing::Types<fft_32fc, fft_32f, fft_64fc, fft_64f>;
 TYPED_TEST_SUITE(FftThreads, families);
+
+template <class F> class FftThreadsReal : public testing::Test {};
+using real_families = testing::Types<fft_perm_32f, fft_ccs_32f, fft_pack_64f>;
+TYPED_TEST_SUITE(FftThreadsReal, real_families);
+
+template <class F> class FftThreadsInteger : public testing::Test {};
+using integer_forms = testing::Types<fwd_16sc, inv_32s, fwd_pack_16s, inv_ccs_32s, fwd_16s32s>;
+TYPED_TEST_SUITE(FftThreadsInteger, integer_forms);
 
 // Runs the work of each thread, all at once.
 template <class Work> void in_threads(const Work& work) {
@@ -67,19 +76,74 @@ template <class F> class there_and_back {
   std::vector<Tav8u>        work_;
 };
 
-TYPED_TEST(FftThreads, ShareOneContext) {
-  using F = TypeParam;
+// Every thread repeats its task on the one context.
+template <class Task> void expect_same_bits(std::vector<Task>& tasks, int order) {
+  const int        rounds = order < 8 ? 200 : order < 14 ? 20 : 2;
+  std::atomic<int> wrong{0};
+  in_threads([&](int i) {
+    for (int k = 0; k < rounds; ++k) wrong += !tasks[size_t(i)].holds();
+  });
+  EXPECT_EQ(wrong, 0) << "order " << order;
+}
+
+template <class F> void share_one_context() {
   each_build<F::forward>([&] {
     for (int order : {3, 5, 6, 10, 13, 16, 18}) {
       const fft_context<F>           context(order, fftScaleBoth);
       std::vector<there_and_back<F>> tasks;
       for (int i = 0; i < thread_count; ++i) tasks.emplace_back(context.get(), order, i);
-      const int        rounds = order < 8 ? 200 : order < 14 ? 20 : 2;
-      std::atomic<int> wrong{0};
-      in_threads([&](int i) {
-        for (int k = 0; k < rounds; ++k) wrong += !tasks[size_t(i)].holds();
-      });
-      EXPECT_EQ(wrong, 0) << "order " << order;
+      expect_same_bits(tasks, order);
+    }
+  });
+}
+
+TYPED_TEST(FftThreads, ShareOneContext) { share_one_context<TypeParam>(); }
+TYPED_TEST(FftThreadsReal, ShareOneContext) { share_one_context<TypeParam>(); }
+
+// One transform of integers, and what it gives without the others.
+template <class F> class integer_task {
+ public:
+  integer_task(const typename F::record::record* ctx, int order, int thread)
+      : ctx_(ctx),
+        order_(order),
+        given_(elements(F::from, n())),
+        right_(elements(F::to, n())),
+        result_(elements(F::to, n())) {
+    source_of_data data{uint32_t(thread)};
+    for (auto& v : given_) v = typename F::src(data.bits());
+    int size = 0;
+    EXPECT_EQ(call<F::record::get_buf_size>(ctx, &size), tavStatusOk);
+    if (thread & 1) work_.resize(size_t(size) + 1);
+    EXPECT_TRUE(run(right_));
+  }
+
+  bool holds() {
+    std::fill(result_.begin(), result_.end(), typename F::dst(0));
+    return run(result_) && result_ == right_;
+  }
+
+ private:
+  size_t n() const { return size_t(1) << order_; }
+  bool   run(std::vector<typename F::dst>& to) {
+      Tav8u* const work = work_.empty() ? nullptr : work_.data();
+      return F::run(given_.data(), to.data(), n(), ctx_, order_ / 2, work) == tavStatusOk;
+  }
+
+  const typename F::record::record* ctx_;
+  int                               order_;
+  std::vector<typename F::src>      given_;
+  std::vector<typename F::dst>      right_, result_;
+  std::vector<Tav8u>                work_;
+};
+
+TYPED_TEST(FftThreadsInteger, ShareOneContext) {
+  using F = TypeParam;
+  each_build<F::exported>([&] {
+    for (int order : {2, 6, 11, 15}) {
+      const integer_context<typename F::record> context(order, fftScaleNone, 0);
+      std::vector<integer_task<F>>              tasks;
+      for (int i = 0; i < thread_count; ++i) tasks.emplace_back(context.get(), order, i);
+      expect_same_bits(tasks, order);
     }
   });
 }

@@ -99,9 +99,6 @@ template <int S, class A> TAV_INLINE quad<A> delayed(quad<A> v) {
   return out;
 }
 
-TAV_INLINE __m128  parts_exchanged(__m128 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(2, 3, 0, 1)); }
-TAV_INLINE __m128d parts_exchanged(__m128d v) { return _mm_shuffle_pd(v, v, 1); }
-
 // A factor for registers of samples: its real part in all lanes; for complex samples its imaginary part too, negative
 // in the lanes of real parts. In tables it takes this form too.
 template <class A> struct factor {

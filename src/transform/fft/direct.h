@@ -57,7 +57,7 @@ template <bool Inverse, class Src, class Out> TAV_INLINE void direct8(Src src, O
     for (int k = 0; k < 2; ++k) {
       const __m128 even = _mm_movelh_ps(y[2 * k], y[2 * k + 1]), odd = _mm_movehl_ps(y[2 * k + 1], y[2 * k]);
       const __m128 turned_odd =
-          times(swapped(odd), eighths<Inverse>::exchanged[k]) + times(odd, eighths<Inverse>::as_is[k]);
+          times(parts_exchanged(odd), eighths<Inverse>::exchanged[k]) + times(odd, eighths<Inverse>::as_is[k]);
       out.put_columns(2 * k, even + turned_odd);
       out.put_columns(2 * k + 4, even - turned_odd);
     }

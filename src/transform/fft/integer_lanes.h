@@ -20,8 +20,6 @@ TAV_INLINE __m128i with_signs(__m128i v, int a, int b, int c, int d) {
   return _mm_sign_epi32(v, _mm_setr_epi32(a, b, c, d));
 }
 
-TAV_INLINE __m128i parts_exchanged(__m128i v) { return _mm_shuffle_epi32(v, _MM_SHUFFLE(2, 3, 0, 1)); }
-
 // Two complex points times -i.
 TAV_INLINE __m128i turned(__m128i v) { return with_signs(parts_exchanged(v), 1, -1, 1, -1); }
 

@@ -95,11 +95,11 @@ template <bool Scaled> void sixteen_forward(const double* src, double* dst, cons
     sums[n] = x0 + x2, sums[n + 2] = x1 + x3;
     points[2 * n] = of::low(d0, d1), points[2 * n + 1] = of::high(d0, d1);
   }
-  points[1]  = points[1] * V{of::c, of::c} + swapped(points[1]) * V{of::s, -of::s};
-  points[2]  = (points[2] + swapped(points[2]) * of::conjugate) * V{of::h, of::h};
-  points[3]  = points[3] * V{of::s, of::s} + swapped(points[3]) * V{of::c, -of::c};
+  points[1]  = points[1] * V{of::c, of::c} + parts_exchanged(points[1]) * V{of::s, -of::s};
+  points[2]  = (points[2] + parts_exchanged(points[2]) * of::conjugate) * V{of::h, of::h};
+  points[3]  = points[3] * V{of::s, of::s} + parts_exchanged(points[3]) * V{of::c, -of::c};
   const V s0 = points[0] + points[2], d0 = points[0] - points[2];
-  const V s1 = points[1] + points[3], d1 = swapped(points[1] - points[3]) * of::conjugate;
+  const V s1 = points[1] + points[3], d1 = parts_exchanged(points[1] - points[3]) * of::conjugate;
   out.put_columns(1, s0 + s1), out.put_columns(7, (s0 - s1) * of::conjugate);
   out.put_columns(5, d0 + d1), out.put_columns(3, (d0 - d1) * of::conjugate);
 
@@ -118,11 +118,11 @@ template <bool Scaled> void sixteen_inverse(const half_spectrum<double>& src, do
   const auto                                 bin = [&src](int k) { return read(src.bins + 2 * (k - 1)); };
 
   const V bin7 = bin(7) * of::conjugate, bin3 = bin(3) * of::conjugate;
-  const V s0 = bin(1) + bin7, d0 = bin(1) - bin7, s1 = bin(5) + bin3, d1 = swapped(bin(5) - bin3) * V{-1, 1};
+  const V s0 = bin(1) + bin7, d0 = bin(1) - bin7, s1 = bin(5) + bin3, d1 = parts_exchanged(bin(5) - bin3) * V{-1, 1};
   const V p0 = (s0 + s1) * V{2, 2}, p2 = s0 - s1, p1 = d0 + d1, p3 = d0 - d1;
-  const V q1 = p1 * V{2 * of::c, 2 * of::c} + swapped(p1) * V{-2 * of::s, 2 * of::s};
-  const V q2 = (p2 - swapped(p2) * of::conjugate) * V{2 * of::h, 2 * of::h};
-  const V q3 = p3 * V{2 * of::s, 2 * of::s} + swapped(p3) * V{-2 * of::c, 2 * of::c};
+  const V q1 = p1 * V{2 * of::c, 2 * of::c} + parts_exchanged(p1) * V{-2 * of::s, 2 * of::s};
+  const V q2 = (p2 - parts_exchanged(p2) * of::conjugate) * V{2 * of::h, 2 * of::h};
+  const V q3 = p3 * V{2 * of::s, 2 * of::s} + parts_exchanged(p3) * V{-2 * of::c, 2 * of::c};
   const V a0 = of::low(p0, q1), a1 = of::low(q2, q3), b0 = of::high(p0, q1), b1 = of::high(q2, q3);
 
   const V ends = of::sum_and_difference(V{src.first, src.middle}), twice4 = bin(4) * V{2, -2};

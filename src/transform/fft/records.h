@@ -19,20 +19,20 @@ template <> struct record_traits<FftContext_C_64fc> : float_record<Tav64f, recor
 template <> struct record_traits<FftContext_C_64f> : float_record<Tav64f, record_id::fft_c_64f, false> {};
 template <> struct record_traits<FftContext_R_64f> : float_record<Tav64f, record_id::fft_r_64f, true> {};
 
-template <class Record> using part_of                        = typename record_traits<Record>::part;
-template <class Record> inline constexpr record_id id_of     = record_traits<Record>::id;
-template <class Record> inline constexpr bool      is_real   = record_traits<Record>::real;
-template <class Record> inline constexpr int       max_order = plan_of<part_of<Record>>.max_order + is_real<Record>;
+template <class Record> using precision_of                 = typename record_traits<Record>::part;
+template <class Record> inline constexpr record_id id_of   = record_traits<Record>::id;
+template <class Record> inline constexpr bool      is_real = record_traits<Record>::real;
+template <class Record> inline constexpr int max_order     = plan_of<precision_of<Record>>.max_order + is_real<Record>;
 
-template <class Record> const fft_record<part_of<Record>>& opened(const Record* ctx) {
-  return *reinterpret_cast<const fft_record<part_of<Record>>*>(ctx);
+template <class Record> const fft_record<precision_of<Record>>& opened(const Record* ctx) {
+  return *reinterpret_cast<const fft_record<precision_of<Record>>*>(ctx);
 }
-template <class Record> fft_record<part_of<Record>>& opened(Record* ctx) {
-  return *reinterpret_cast<fft_record<part_of<Record>>*>(ctx);
+template <class Record> fft_record<precision_of<Record>>& opened(Record* ctx) {
+  return *reinterpret_cast<fft_record<precision_of<Record>>*>(ctx);
 }
 
 template <class Record> fft_sizes sizes_of(int order) {
-  using T = part_of<Record>;
+  using T = precision_of<Record>;
   return is_real<Record> ? real_sizes<T>(order) : complex_sizes<T>(order);
 }
 
@@ -44,7 +44,7 @@ template <class Record> TavStatus get_size(int order, int flag, int, int* spec, 
 
 // The id is stored last: whatever fails before leaves a dead record.
 template <class Record> TavStatus init(Record** ctx, int order, int flag, int hint, Tav8u* mem, Tav8u* initBuf) {
-  using T = part_of<Record>;
+  using T = precision_of<Record>;
   if (!ctx) return tavStatusNullPointer;
   if (unsigned(order) > unsigned(max_order<Record>)) return tavStatusBadOrder;
   if (!mem) return tavStatusNullPointer;

@@ -53,20 +53,10 @@ template <class V> TAV_INLINE V flipped(V v, const void* mask) {
   return v;
 }
 
-// Pairs with their parts exchanged: pshufd copies and swaps in one instruction.
-TAV_INLINE __m128  swapped(__m128 v) { return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(v), 0xB1)); }
-TAV_INLINE __m128d swapped(__m128d v) { return _mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(v), 0x4E)); }
-
 TAV_INLINE __m128  low_lanes(__m128 a, __m128 b) { return _mm_unpacklo_ps(a, b); }
 TAV_INLINE __m128d low_lanes(__m128d a, __m128d b) { return _mm_unpacklo_pd(a, b); }
 TAV_INLINE __m128  high_lanes(__m128 a, __m128 b) { return _mm_unpackhi_ps(a, b); }
 TAV_INLINE __m128d high_lanes(__m128d a, __m128d b) { return _mm_unpackhi_pd(a, b); }
-
-// Every other lane of two registers.
-TAV_INLINE __m128  even_lanes(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, 0x88); }
-TAV_INLINE __m128d even_lanes(__m128d a, __m128d b) { return _mm_unpacklo_pd(a, b); }
-TAV_INLINE __m128  odd_lanes(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, 0xDD); }
-TAV_INLINE __m128d odd_lanes(__m128d a, __m128d b) { return _mm_unpackhi_pd(a, b); }
 
 TAV_INLINE __m128 exchanged_halves(__m128 v) { return _mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(v), 0x4E)); }
 
@@ -89,7 +79,7 @@ template <class T> struct constants {
 
 // On pairs, a quarter turn in the direction of the transform: times -i forward, times i inverse.
 template <bool Inverse, class T, class V> TAV_INLINE V turned(V v) {
-  return flipped(swapped(v), Inverse ? constants<T>::negative_re : constants<T>::negative_im);
+  return flipped(parts_exchanged(v), Inverse ? constants<T>::negative_re : constants<T>::negative_im);
 }
 
 }  // namespace tav::TAV_VARIANT::fft

@@ -84,7 +84,7 @@ template <class T> struct split {
   TAV_INLINE void put_point(reg<T> v) const {
     if constexpr (sizeof(T) == 4) {
       _mm_store_ss(re, v);
-      _mm_store_ss(im, swapped(v));
+      _mm_store_ss(im, parts_exchanged(v));
     } else {
       put_columns(0, v);
     }
