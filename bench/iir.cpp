@@ -1,11 +1,16 @@
 // IIR filters of arbitrary order, beside the recursion as it is defined.
 #include <algorithm>
+#include <complex>
+
+#include <liquid/liquid.h>
 
 #include "harness.h"
 #include "plain_iir.h"
 
 namespace bench {
 namespace {
+
+constexpr char liquid[] = "liquid-dsp";
 
 // Real poles at 0.6, 0.5, 0.4 ..., which keep the outputs of positive samples positive.
 template <class T, class State> struct filter {
@@ -52,6 +57,12 @@ void run_ours(filter<Tav32f, IIRState32f_16s>& f, const Tav16s* src, Tav16s* dst
   tavsIIRSetDlyLine32f_16s(f.state, nullptr);
   tavsIIR32f_16s_Sfs(src, dst, n, f.state, 0);
 }
+template <int N> void run_liquid(const Tav32f* src, Tav32f* dst, int n) {
+  auto&                     f    = singles<N>();
+  static const iirfilt_rrrf peer = iirfilt_rrrf_create(f.taps, N + 1, f.taps + N + 1, N + 1);
+  iirfilt_rrrf_reset(peer);
+  iirfilt_rrrf_execute_block(peer, const_cast<Tav32f*>(src), unsigned(n), dst);
+}
 template <class F, class T> void run_plain(F& f, const T* src, T* dst, int n) {
   std::fill(f.delay, f.delay + f.order, 0);
   plain::filter(src, dst, n, f.b(), f.a(), f.order, f.delay);
@@ -66,10 +77,12 @@ template <class F, class T> void run_plain_second(F& f, const T* src, T* dst, in
 BENCH_FAMILY(iir) {
   near_contest<Tav32f, Tav32f>({.name = "IIR_32f, order 2", .bytes = 8}, 1e-4,
                                {{ours, [](auto& x, int n) { run_ours(singles<2>(), x.a, x.out, n); }},
-                                {loop, [](auto& x, int n) { run_plain_second(singles<2>(), x.a, x.out, n); }}});
+                                {loop, [](auto& x, int n) { run_plain_second(singles<2>(), x.a, x.out, n); }},
+                                {liquid, [](auto& x, int n) { run_liquid<2>(x.a, x.out, n); }}});
   near_contest<Tav32f, Tav32f>({.name = "IIR_32f, order 6", .bytes = 8}, 1e-4,
                                {{ours, [](auto& x, int n) { run_ours(singles<6>(), x.a, x.out, n); }},
-                                {loop, [](auto& x, int n) { run_plain(singles<6>(), x.a, x.out, n); }}});
+                                {loop, [](auto& x, int n) { run_plain(singles<6>(), x.a, x.out, n); }},
+                                {liquid, [](auto& x, int n) { run_liquid<6>(x.a, x.out, n); }}});
   near_contest<Tav64f, Tav64f>({.name = "IIR_64f, order 2", .bytes = 16}, 1e-10,
                                {{ours, [](auto& x, int n) { run_ours(doubles<2>(), x.a, x.out, n); }},
                                 {loop, [](auto& x, int n) { run_plain_second(doubles<2>(), x.a, x.out, n); }}});

@@ -32,7 +32,8 @@ peer, or to the C library's function where it has one, is to reach; one that is 
 
 No peer uses registers of more than 16 bytes: memcpy, memmove and memset are glibc's with AVX, AVX-512 and `rep movsb`
 taken away (`__memcpy_ssse3`, `__memmove_ssse3`, and `__memset_sse2_unaligned` or, for 32 bits, `__memset_sse2`), VOLK runs
-its SSE and SSSE3 kernels, and "loop" is the plain loop as gcc compiles it at -O3 -mssse3.
+its SSE and SSSE3 kernels, and "loop" is the plain loop as gcc compiles it at -O3 -mssse3. liquid-dsp is Debian's build:
+code without vectors, which on i686 runs on the extended-precision unit; no goal is set against it.
 """
 
 

@@ -27,6 +27,13 @@ template <class... P> TAV_INLINE TavStatus check_unsigned_length(unsigned len, c
   return len == 0 ? tavStatusBadSize : tavStatusOk;
 }
 
+// Size queries and set-up of filters: every pointer, then the number of taps or the order, each with a status of its
+// own.
+template <TavStatus BadCount, class... P> TAV_INLINE TavStatus check_set_up(int count, const P*... p) {
+  if (any_null(p...)) return tavStatusNullPointer;
+  return count < 1 ? BadCount : tavStatusOk;
+}
+
 // Free functions, accessors: the record, then its id.
 template <record_id... Accepted, class Record> TAV_INLINE TavStatus check_record(const Record* record) {
   if (!record) return tavStatusNullPointer;

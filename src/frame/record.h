@@ -9,10 +9,12 @@ namespace tav {
 
 inline constexpr uintptr_t record_alignment = 64;
 
-// The first address at or above p that is a multiple of 64: where a record or a work area starts in a caller's block.
-inline Tav8u* align_up(void* p) {
+// The first address at or above p that is a multiple of Boundary: where a record or a work area starts in a caller's
+// block.
+template <uintptr_t Boundary = record_alignment> Tav8u* align_up(void* p) {
+  static_assert((Boundary & (Boundary - 1)) == 0);
   Tav8u* const bytes = static_cast<Tav8u*>(p);
-  return bytes + (-reinterpret_cast<uintptr_t>(bytes) & (record_alignment - 1));
+  return bytes + (-reinterpret_cast<uintptr_t>(bytes) & (Boundary - 1));
 }
 
 // The only validity test of a record: its first word is one of the ids that the function accepts.

@@ -85,26 +85,26 @@ template <class T> T narrowed(oracle::wide v) {
     return T(v.re);
 }
 
-inline constexpr int taps_factor = 24;  // of integer taps
+inline constexpr int biquad_taps_factor = 24;  // of integer taps
 
 // The calls, with a factor where the form takes one.
 template <class F, class... A>
 TavStatus init_biquads(typename F::state** state, const typename F::tap* taps, int n, A... rest) {
   if constexpr (converts_taps<F>)
-    return call<F::init>(state, taps, n, taps_factor, rest...);
+    return call<F::init>(state, taps, n, biquad_taps_factor, rest...);
   else
     return call<F::init>(state, taps, n, rest...);
 }
 template <class F, class... A>
 TavStatus init_alloc_biquads(typename F::state** state, const typename F::tap* taps, int n, A... rest) {
   if constexpr (converts_taps<F>)
-    return call<F::init_alloc>(state, taps, n, taps_factor, rest...);
+    return call<F::init_alloc>(state, taps, n, biquad_taps_factor, rest...);
   else
     return call<F::init_alloc>(state, taps, n, rest...);
 }
 template <class F> TavStatus set_biquads(const typename F::tap* taps, typename F::state* state) {
   if constexpr (converts_taps<F>)
-    return call<F::set_taps>(taps, state, taps_factor);
+    return call<F::set_taps>(taps, state, biquad_taps_factor);
   else
     return call<F::set_taps>(taps, state);
 }
@@ -144,7 +144,7 @@ template <class F> std::vector<typename F::tap> stable_taps(int sections, double
                                    oracle::wide{-unit} * (p + q),
                                    oracle::wide{unit} * (p * q)};
     for (const oracle::wide& t : given) {
-      const oracle::wide scaled = converts_taps<F> ? t * oracle::wide{1 << taps_factor} : t;
+      const oracle::wide scaled = converts_taps<F> ? t * oracle::wide{1 << biquad_taps_factor} : t;
       taps.push_back(narrowed<T>(scaled));
     }
   }

@@ -29,7 +29,7 @@ template <class F> std::vector<typename F::tap> halving(int sections) {
   std::vector<typename F::tap> taps;
   for (int s = 0; s < sections; ++s)
     for (double v : {s == 0 ? 0.5 : 1.0, 0.0, 0.0, 1.0, 0.0, 0.0})
-      taps.push_back(narrowed<typename F::tap>({(long double)v * (converts_taps<F> ? 1 << taps_factor : 1)}));
+      taps.push_back(narrowed<typename F::tap>({(long double)v * (converts_taps<F> ? 1 << biquad_taps_factor : 1)}));
   return taps;
 }
 

@@ -149,7 +149,7 @@ TYPED_TEST(Biquad, DelayLineIsThatOfTheTransposedForm) {
   for (int len : {1, 2, 3, 4, 5, 6, 7, 9, 10}) {
     std::vector<T> taps;
     for (double v : {2.0, 1.0, -4.0, 2.0, 1.0, -1.0, 4.0, -2.0, 2.0, 4.0, -2.0, 4.0})
-      taps.push_back(narrowed<T>({(long double)v * (converts_taps<F> ? 1 << taps_factor : 1)}));
+      taps.push_back(narrowed<T>({(long double)v * (converts_taps<F> ? 1 << biquad_taps_factor : 1)}));
     oracle::cascade                 wanted = definition<F>(taps);
     const biquad_state<F>           state(taps);
     std::vector<typename F::sample> x;

@@ -110,7 +110,7 @@ TYPED_TEST(FirDirect, AnyPieces) {
   });
 }
 
-// 128 outputs and 256 taps are made at once.
+// 256 outputs, or 128 of integer taps, and 256 taps are made at once.
 TYPED_TEST(FirDirect, LongPiecesAndManyTaps) {
   each_build<TypeParam::block>([&] {
     for (int n : {1, 2, 3, 31, 32, 127, 128, 129, 255, 256, 257, 258, 400, 511, 512, 513})

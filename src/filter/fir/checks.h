@@ -4,12 +4,6 @@
 
 namespace tav::TAV_VARIANT::fir {
 
-// Size queries and set-up: every pointer, then the number of taps.
-template <class... P> TAV_INLINE TavStatus check_set_up(int tapsLen, const P*... p) {
-  if (any_null(p...)) return tavStatusNullPointer;
-  return tapsLen < 1 ? tavStatusBadFirLength : tavStatusOk;
-}
-
 // Blocks: every pointer, the length, and the id last.
 template <class State, class... P> TAV_INLINE TavStatus check_block(const State* state, int len, const P*... data) {
   if (const TavStatus bad = check_vector(len, state, data...)) return bad;

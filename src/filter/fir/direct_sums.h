@@ -24,50 +24,75 @@ template <class T> TAV_INLINE reg<T> tap_in_lanes(const T* tap) {
     return load<access::unaligned, 1>(tap);
 }
 
-// sums[i] += x[i] h[0] + x[i + 2] h[-2] + ..., `count` products from the left, for K registers of x.
-template <int K, class T, class S> TAV_INLINE void add_at(const T* x, const T* h, size_t count, S* sums) {
-  constexpr int wide = sizeof(S) / sizeof(T);
-  reg<S>        acc[K * wide];
+// A panel of taps: `pairs` of them, from h on backwards, and whether it is the first, the last, and one tap is left
+// over.
+template <class T> struct tap_panel {
+  const T* h;
+  size_t   pairs;
+  bool     begins, ends, odd;
+};
+
+// Sums of neighbouring outputs, as lanes of K registers of T, or of twice as many where S is wider.
+template <int K, class T, class S> struct lane_sums {
+  static constexpr int wide  = sizeof(S) / sizeof(T);
+  static constexpr int count = K * wide;
+  reg<S>               r[count];
+
+  TAV_INLINE void clear() { *this = {}; }
+  TAV_INLINE void load_from(const S* p) {
 #pragma GCC unroll 8
-  for (int q = 0; q < K * wide; ++q) acc[q] = load<access::aligned, lanes<S>>(sums + q * lanes<S>);
-#pragma GCC unroll 1
-  for (size_t m = 0; m < count; ++m) {
-    const reg<T> tap = tap_in_lanes(h - 2 * m);
+    for (int q = 0; q < count; ++q) r[q] = load<access::aligned, lanes<S>>(p + q * lanes<S>);
+  }
+  TAV_INLINE void store_to(S* p) const {
+#pragma GCC unroll 8
+    for (int q = 0; q < count; ++q) store<access::aligned>(p + q * lanes<S>, r[q]);
+  }
+  TAV_INLINE void add(const lane_sums& other) {
+#pragma GCC unroll 8
+    for (int q = 0; q < count; ++q) r[q] += other.r[q];
+  }
+  TAV_INLINE void add_products(const T* x, const T* h) {
+    const reg<T> tap = tap_in_lanes(h);
 #pragma GCC unroll 8
     for (int q = 0; q < K; ++q) {
-      const reg<T> p = product_of<T>::many(load<access::unaligned, lanes<T>>(x + 2 * m + q * lanes<T>), tap);
       if constexpr (wide == 1) {
-        acc[q] += p;
+        r[q] += product_of<T>::many(samples(x, q), tap);
+      } else if constexpr (is_complex<T>) {
+        const reg<T> p = product_of<T>::many(samples(x, q), tap);
+        r[2 * q] += _mm_cvtps_pd(p);
+        r[2 * q + 1] += _mm_cvtps_pd(_mm_movehl_ps(p, p));
       } else {
-        acc[2 * q] += _mm_cvtps_pd(p);
-        acc[2 * q + 1] += _mm_cvtps_pd(_mm_movehl_ps(p, p));
+        r[2 * q] += _mm_cvtps_pd(two_samples(x + 4 * q) * tap);
+        r[2 * q + 1] += _mm_cvtps_pd(two_samples(x + 4 * q + 2) * tap);
       }
     }
   }
-#pragma GCC unroll 8
-  for (int q = 0; q < K * wide; ++q) store<access::aligned>(sums + q * lanes<S>, acc[q]);
-}
+
+ private:
+  TAV_INLINE static reg<T> samples(const T* x, int q) { return load<access::unaligned, lanes<T>>(x + q * lanes<T>); }
+  // Twice, through the load: a second product costs less than the shuffle of one.
+  TAV_INLINE static __m128 two_samples(const Tav32f* x) {
+    Tav64f both;
+    __builtin_memcpy(&both, x, sizeof both);
+    return _mm_castpd_ps(_mm_set1_pd(both));
+  }
+};
 
 template <class T, class S> class direct_sums {
  public:
-  static constexpr size_t at_once = 128;
+  static constexpr size_t at_once = 256;
 
   // Sums n outputs, at most at_once; the first is that of the sample behind taps_len - 1 samples of x.
   template <class D> void run(const joined_signal<D>& x, const T* taps, size_t taps_len, size_t n) {
-    shared::zero_bytes(even_, n * sizeof(S));
-    shared::zero_bytes(odd_, n * sizeof(S));
     const size_t in_pairs = taps_len & ~size_t(1);
-    for (size_t done = 0; done < in_pairs; done += panel) {
-      const size_t count = in_pairs - done < panel ? in_pairs - done : panel;
-      const T*     h     = taps + (taps_len - 1 - done);
-      x.read(done, count + n - 1, samples_);
-      add(samples_, h, count / 2, even_, n);
-      add(samples_ + 1, h - 1, count / 2, odd_, n);
-    }
-    for (size_t i = 0; i < n; ++i) even_[i] = plus(even_[i], odd_[i]);
-    if (in_pairs == taps_len) return;
-    x.read(in_pairs, n, samples_);
-    add(samples_, taps, 1, even_, n);
+    size_t       done     = 0;
+    do {
+      const size_t left = in_pairs - done, count = left < panel ? left : panel;
+      const bool   ends = left == count, odd = ends && in_pairs != taps_len;
+      x.read(done, count + odd + n - 1, samples_);
+      add({taps + (taps_len - 1 - done), count / 2, done == 0, ends, odd}, n);
+      done += count;
+    } while (done < in_pairs);
   }
   const S* sums() const { return even_; }
 
@@ -89,15 +114,48 @@ template <class T, class S> class direct_sums {
 
   static constexpr size_t panel         = 256;
   static constexpr bool   few_registers = sizeof(void*) == 4;
-  static constexpr int    in_round      = (few_registers || is_complex<T> ? 4 : 8) / int(sizeof(S) / sizeof(T));
+  static constexpr int    in_round      = sizeof(S) != sizeof(T) ? 1 : few_registers || is_complex<T> ? 2 : 4;
 
-  static void add(const T* x, const T* h, size_t count, S* sums, size_t n) {
+  void add(const tap_panel<T>& p, size_t n) {
     constexpr size_t step = lanes<T>, round = step * in_round;
     size_t           i = 0;
-    for (; n - i >= round; i += round) add_at<in_round>(x + i, h, count, sums + i);
-    for (; n - i >= step; i += step) add_at<1>(x + i, h, count, sums + i);
-    for (; i < n; ++i)
-      for (size_t m = 0; m < count; ++m) sums[i] = plus(sums[i], product_of<T>::one(x[i + 2 * m], peek(h - 2 * m)));
+    for (; n - i >= round; i += round) add_group<in_round>(p, i);
+    for (; n - i >= step; i += step) add_group<1>(p, i);
+    for (; i < n; ++i) add_one(p, i);
+  }
+
+  // Both sums of a round of outputs from i on, which become the results with the last panel.
+  template <int K> TAV_INLINE void add_group(const tap_panel<T>& p, size_t i) {
+    lane_sums<K, T, S> even, odd;
+    if (p.begins)
+      even.clear(), odd.clear();
+    else
+      even.load_from(even_ + i), odd.load_from(odd_ + i);
+    const T* x = samples_ + i;
+    const T* h = p.h;
+#pragma GCC unroll 1
+    for (size_t m = 0; m < 2 * p.pairs; m += 2) {
+      even.add_products(x + m, h - m);
+      odd.add_products(x + m + 1, h - m - 1);
+    }
+    if (p.ends)
+      even.add(odd);
+    else
+      odd.store_to(odd_ + i);
+    if (p.odd) even.add_products(x + 2 * p.pairs, h - 2 * p.pairs);
+    even.store_to(even_ + i);
+  }
+  void add_one(const tap_panel<T>& p, size_t i) {
+    const auto product = [&](size_t m) { return product_of<T>::one(samples_[i + m], peek(p.h - m)); };
+    S          even = p.begins ? S{} : even_[i], odd = p.begins ? S{} : odd_[i];
+    for (size_t m = 0; m < 2 * p.pairs; m += 2) {
+      even = plus(even, product(m));
+      odd  = plus(odd, product(m + 1));
+    }
+    odd_[i] = odd;
+    if (p.ends) even = plus(even, odd);
+    if (p.odd) even = plus(even, product(2 * p.pairs));
+    even_[i] = even;
   }
 
   alignas(16) S even_[at_once];

@@ -6,39 +6,64 @@
 //                    of 68 places; the lanes in pairs, (l0 + l1) + (l2 + l3), panel after panel
 #include "filter/fir/kernels.h"
 #include "filter/fir/taps.h"
+#include "frame/rounding.h"
 
 namespace tav::TAV_VARIANT::fir {
 namespace {
 
 using record                  = float_record<Tav32f>;
 constexpr int few_taps        = 31;
-constexpr int taps_in_pass    = 4;
+constexpr int taps_in_sum     = 4;
+constexpr int taps_in_pass    = 2 * taps_in_sum;
 constexpr int panel_registers = 17;
 constexpr int lanes_one_from  = 12;  // taps from which one-sample calls sum in lanes
 
 TAV_INLINE __m128 read(const Tav32f* p) { return load<access::unaligned, 4>(p); }
 TAV_INLINE __m128 tap(const Tav32f* p) { return load<access::aligned, 4>(p); }
 
-// Up to four taps, which stay in registers, over n outputs, a multiple of four. The first pass begins the outputs,
-// later ones add to them.
+// The sum with one more product, which may be its first. Where registers are few it is held, so that each step is done
+// with its own before the next one takes them.
+TAV_INLINE __m128 plus_product(bool first, __m128 sum, __m128 x, __m128 h) {
+  sum = first ? x * h : sum + x * h;
+  return few_registers ? held(sum) : sum;
+}
+
+// Up to eight taps over n outputs, a multiple of four. The first pass begins the outputs, later ones add to them.
+//
+// What the fifth to the eighth tap make of a register of samples belongs to the outputs four later, and is carried over
+// to them: so samples are read once for two products. Taps stay in registers as far as there are some.
 template <int Count, bool First> void pass(const Tav32f* newest, const Tav32f* taps, Tav32f* y, size_t n) {
-  __m128 h[Count];
+  constexpr int low = Count < taps_in_sum ? Count : taps_in_sum, high = Count - low;
+  constexpr int kept = high != 0 && few_registers ? low - 1 : low, kept_later = few_registers ? 0 : high;
+  const auto    low_tap  = [&](int j) { return tap(taps + 4 * j); };
+  const auto    high_tap = [&](int j) { return tap(taps + 4 * (taps_in_sum + j)); };
+  __m128        h[taps_in_sum], g[taps_in_sum], carried{};
 #pragma GCC unroll 4
-  for (int j = 0; j < Count; ++j) h[j] = tap(taps + 4 * j);
+  for (int j = 0; j < kept; ++j) h[j] = low_tap(j);
+#pragma GCC unroll 4
+  for (int j = 0; j < kept_later; ++j) g[j] = high_tap(j);
+#pragma GCC unroll 4
+  for (int j = 0; j < high; ++j) carried = plus_product(j == 0, carried, read(newest - taps_in_sum - j), high_tap(j));
 #pragma GCC unroll 2
   for (size_t i = 0; i < n; i += 4) {
-    __m128 sums = read(newest + i) * h[0];
+    __m128 sums{}, later{};
 #pragma GCC unroll 4
-    for (int j = 1; j < Count; ++j) sums += read(newest + i - j) * h[j];
-    store<access::unaligned>(y + i, First ? sums : read(y + i) + sums);
+    for (int j = 0; j < low; ++j) {
+      const __m128 x = loaded_once(read(newest + i - j));
+      sums           = plus_product(j == 0, sums, x, j < kept ? h[j] : low_tap(j));
+      if (j < high) later = plus_product(j == 0, later, x, j < kept_later ? g[j] : high_tap(j));
+    }
+    if constexpr (!First) sums = read(y + i) + sums;
+    if constexpr (high != 0) sums += carried, carried = later;
+    store<access::unaligned>(y + i, sums);
   }
 }
 
 template <bool First> void pass_of(int count, const Tav32f* newest, const Tav32f* taps, Tav32f* y, size_t n) {
-  if (count >= taps_in_pass) return pass<taps_in_pass, First>(newest, taps, y, n);
-  if (count == 3) return pass<3, First>(newest, taps, y, n);
-  if (count == 2) return pass<2, First>(newest, taps, y, n);
-  pass<1, First>(newest, taps, y, n);
+  constexpr decltype(&pass<1, First>) by_count[taps_in_pass] = {pass<1, First>, pass<2, First>, pass<3, First>,
+                                                                pass<4, First>, pass<5, First>, pass<6, First>,
+                                                                pass<7, First>, pass<8, First>};
+  by_count[(count < taps_in_pass ? count : taps_in_pass) - 1](newest, taps, y, n);
 }
 
 void all_passes(const record& r, const Tav32f* x, Tav32f* y, size_t n) {
@@ -53,7 +78,7 @@ Tav32f passes_at(const record& r, const Tav32f* x) {
   const Tav32f* newest = x + r.taps_len - 1;
   Tav32f        sum    = 0;
   for (int k = 0; k < r.taps_len;) {
-    const int count  = r.taps_len - k < taps_in_pass ? r.taps_len - k : taps_in_pass;
+    const int count  = r.taps_len - k < taps_in_sum ? r.taps_len - k : taps_in_sum;
     Tav32f    passed = peek(newest - k) * r.repeated[4 * k];
     for (int j = 1; j < count; ++j) passed += peek(newest - k - j) * r.repeated[4 * (k + j)];
     sum = k == 0 ? passed : sum + passed;
@@ -111,7 +136,7 @@ template <int K> TAV_INLINE void sums_in_lanes(const record& r, const Tav32f* x,
   for (int left = registers_in_copy(r.taps_len); left > 0;) {
     const int panel = left < panel_registers ? left : panel_registers;
     __m128    s[K][copies]{};
-#pragma GCC unroll 1
+#pragma GCC unroll 2
     for (const Tav32f* const end = taps + 4 * copies * panel; taps != end; taps += 4 * copies, x += 4)
 #pragma GCC unroll 4
       for (int c = 0; c < copies; ++c)

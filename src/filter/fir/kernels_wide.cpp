@@ -20,13 +20,6 @@ template <class T> TAV_INLINE lane_group<T> aligned_read(const part<T>* x) {
   return load<access::aligned, lanes<part<T>>>(x);
 }
 
-// Keeps a value from being loaded again for its second use, or kept for the next round in a register too many: gcc does
-// both.
-template <class R> TAV_INLINE R loaded_once(R v) {
-  __asm__ volatile("" : "+x"(v) : : "memory");
-  return v;
-}
-
 // What a tap, or a register of samples' own taps, multiplies with; `im` of complex taps only.
 template <class T> struct factors { lane_group<T> re, im = re; };
 

@@ -33,7 +33,7 @@ template <class T> Tav8u* to_boundary(Tav8u* block) {
   if constexpr (boundary<T> == 32)
     return static_cast<Tav8u*>(tavAlignPtr(block, 32));
   else
-    return block + (-reinterpret_cast<uintptr_t>(block) & (boundary<T> - 1));
+    return align_up<boundary<T>>(block);
 }
 
 // Hands out the parts of a record, one behind the other.
@@ -87,7 +87,7 @@ TavStatus build(float_record<T>* r, const layout& l, const S* taps, int tapsLen,
 }
 
 template <class SetUp> TavStatus get_size(int tapsLen, int* size) {
-  if (const TavStatus bad = check_set_up(tapsLen, size)) return bad;
+  if (const TavStatus bad = check_set_up<tavStatusBadFirLength>(tapsLen, size)) return bad;
   *size = int(SetUp::in_memory(tapsLen).total());
   return tavStatusOk;
 }
@@ -95,7 +95,7 @@ template <class SetUp> TavStatus get_size(int tapsLen, int* size) {
 template <class SetUp, class State = typename SetUp::state>
 TavStatus init(State** state, const typename SetUp::taps* taps, int tapsLen, const typename SetUp::data* dly,
                Tav8u* buf) {
-  if (const TavStatus bad = check_set_up(tapsLen, state, taps, buf)) return bad;
+  if (const TavStatus bad = check_set_up<tavStatusBadFirLength>(tapsLen, state, taps, buf)) return bad;
   using record  = typename traits<State>::record;
   auto* const r = reinterpret_cast<record*>(to_boundary<tap_of<State>>(buf));
   build(r, SetUp::in_memory(tapsLen), taps, tapsLen, dly);
@@ -107,7 +107,7 @@ TavStatus init(State** state, const typename SetUp::taps* taps, int tapsLen, con
 // A block from the allocator starts on a boundary.
 template <class SetUp, class State = typename SetUp::state>
 TavStatus init_alloc(State** state, const typename SetUp::taps* taps, int tapsLen, const typename SetUp::data* dly) {
-  if (const TavStatus bad = check_set_up(tapsLen, state, taps)) return bad;
+  if (const TavStatus bad = check_set_up<tavStatusBadFirLength>(tapsLen, state, taps)) return bad;
   const layout l = SetUp::allocated(tapsLen);
   if (l.total() > INT32_MAX) return tavStatusNoMemory;
   return allocate_record(state, size_t(l.total()), [&](void* block) {

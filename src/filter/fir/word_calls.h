@@ -9,7 +9,7 @@ namespace tav::TAV_VARIANT::fir {
 template <class State> using float_taps = std::conditional_t<is_complex<tap_of<State>>, Tav32fc, Tav32f>;
 
 template <class State> TavStatus get_words_size(int tapsLen, int* size) {
-  if (const TavStatus bad = check_set_up(tapsLen, size)) return bad;
+  if (const TavStatus bad = check_set_up<tavStatusBadFirLength>(tapsLen, size)) return bad;
   *size = int(words_layout<tap_of<State>, data_of<State>>(uint64_t(tapsLen)).total());
   return tavStatusOk;
 }
@@ -25,7 +25,7 @@ State* build_words(void* block, int tapsLen, const data_of<State>* dly, origin f
   return reinterpret_cast<State*>(r);
 }
 
-inline Tav8u* to_words_boundary(Tav8u* buf) { return buf + (-reinterpret_cast<uintptr_t>(buf) & 15); }
+inline constexpr uintptr_t words_boundary = 16;
 
 // A block from the allocator starts on a boundary.
 template <class State, class SetTaps>
@@ -41,30 +41,30 @@ TavStatus allocate_words(State** state, int tapsLen, const data_of<State>* dly, 
 template <class State>
 TavStatus init_words(State** state, const tap_of<State>* taps, int tapsLen, int tapsFactor, const data_of<State>* dly,
                      Tav8u* buf) {
-  if (const TavStatus bad = check_set_up(tapsLen, state, taps, buf)) return bad;
-  *state = build_words<State>(to_words_boundary(buf), tapsLen, dly, origin::caller,
+  if (const TavStatus bad = check_set_up<tavStatusBadFirLength>(tapsLen, state, taps, buf)) return bad;
+  *state = build_words<State>(align_up<words_boundary>(buf), tapsLen, dly, origin::caller,
                               [&](auto& r) { set_integer_taps(r, taps, tapsFactor); });
   return tavStatusOk;
 }
 template <class State>
 TavStatus init_alloc_words(State** state, const tap_of<State>* taps, int tapsLen, int tapsFactor,
                            const data_of<State>* dly) {
-  if (const TavStatus bad = check_set_up(tapsLen, state, taps)) return bad;
+  if (const TavStatus bad = check_set_up<tavStatusBadFirLength>(tapsLen, state, taps)) return bad;
   return allocate_words(state, tapsLen, dly, [&](auto& r) { set_integer_taps(r, taps, tapsFactor); });
 }
 
 template <class State>
 TavStatus init_words_of_floats(State** state, const float_taps<State>* taps, int tapsLen, const data_of<State>* dly,
                                Tav8u* buf) {
-  if (const TavStatus bad = check_set_up(tapsLen, state, taps, buf)) return bad;
-  *state = build_words<State>(to_words_boundary(buf), tapsLen, dly, origin::caller,
+  if (const TavStatus bad = check_set_up<tavStatusBadFirLength>(tapsLen, state, taps, buf)) return bad;
+  *state = build_words<State>(align_up<words_boundary>(buf), tapsLen, dly, origin::caller,
                               [&](auto& r) { set_float_taps(r, taps); });
   return tavStatusOk;
 }
 template <class State>
 TavStatus init_alloc_words_of_floats(State** state, const float_taps<State>* taps, int tapsLen,
                                      const data_of<State>* dly) {
-  if (const TavStatus bad = check_set_up(tapsLen, state, taps)) return bad;
+  if (const TavStatus bad = check_set_up<tavStatusBadFirLength>(tapsLen, state, taps)) return bad;
   return allocate_words(state, tapsLen, dly, [&](auto& r) { set_float_taps(r, taps); });
 }
 

@@ -1,6 +1,7 @@
 // The taps of the integer filters: brought to 16 bits and a power of two, and set as the steps of the kernel.
 #pragma once
 #include "filter/fir/word_record.h"
+#include "vector/to_integer.h"
 
 namespace tav::TAV_VARIANT::fir {
 
@@ -79,14 +80,10 @@ template <class Tap, class Data, class F> void set_float_taps(word_record<Tap, D
   fill_list(r);
 }
 
-// 2^exponent; far beyond singles the same as at their end.
+// 2^exponent; far beyond singles the same as at their end, so that zeros stay what they are.
 inline Tav64f power_of_two(int exponent) {
-  constexpr int  most = 1000, bias = 1023, fraction_bits = 52;
-  const int      e    = exponent > most ? most : exponent < -most ? -most : exponent;
-  const uint64_t bits = uint64_t(bias + e) << fraction_bits;
-  Tav64f         v;
-  __builtin_memcpy(&v, &bits, sizeof v);
-  return v;
+  constexpr int most = 1000;
+  return power_of_two_minus<Tav64f>(exponent > most ? -most : exponent < -most ? most : -exponent);
 }
 
 }  // namespace tav::TAV_VARIANT::fir

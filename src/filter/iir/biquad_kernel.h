@@ -29,15 +29,16 @@ template <class A> TAV_INLINE void keep_last(A (&to)[2], quad<A> q) {
   to[0] = v[look_ahead - 2], to[1] = v[look_ahead - 1];
 }
 
-// Adds what sample K of four contributes to four outputs.
+// Adds what sample K of four contributes to four outputs. The first row of inputs, or of outputs before, begins a sum.
 template <class A, int Row, int K> TAV_INLINE void add_row(quad<A>& sum, const section_rows<A>& rows, quad<A> v) {
-  const reg<A> x[2] = {all_of<K * parts<A>>(v), all_of<K * parts<A> + parts<A> - 1>(v)};
+  constexpr bool begins = Row == row_x_2 || Row == row_y_2;
+  const reg<A>   x[2]   = {all_of<K * parts<A>>(v), all_of<K * parts<A> + parts<A> - 1>(v)};
 #pragma GCC unroll 2
   for (int part = 0; part < parts<A>; ++part)
 #pragma GCC unroll 4
     for (int q = row_layout<A>::first(Row); q < quad_registers<A>; ++q) {
       const reg<A> product = *reinterpret_cast<const reg<A>*>(rows.at(Row, part, q)) * x[part];
-      sum.r[q]             = Row == row_x_2 && part == 0 ? product : sum.r[q] + product;
+      sum.r[q]             = begins && part == 0 ? product : sum.r[q] + product;
     }
 }
 
@@ -45,7 +46,7 @@ template <class A, int Row, int K> TAV_INLINE void add_row(quad<A>& sum, const s
 // another order it takes more registers than there are on 32 bits.
 template <class A>
 TAV_INLINE quad<A> next_four(const section_rows<A>& rows, quad<A> x_before, quad<A> x, quad<A> y_before) {
-  quad<A> sum;
+  quad<A> sum, of_outputs;
   add_row<A, row_x_2, 2>(sum, rows, x_before);
   add_row<A, row_x_1, 3>(sum, rows, x_before);
   add_row<A, row_x0, 0>(sum, rows, x);
@@ -54,8 +55,10 @@ TAV_INLINE quad<A> next_four(const section_rows<A>& rows, quad<A> x_before, quad
   add_row<A, row_x3, 3>(sum, rows, x);
 #pragma GCC unroll 4
   for (int q = 0; q < quad_registers<A>; ++q) sum.r[q] = held(sum.r[q]);
-  add_row<A, row_y_2, 2>(sum, rows, y_before);
-  add_row<A, row_y_1, 3>(sum, rows, y_before);
+  add_row<A, row_y_2, 2>(of_outputs, rows, y_before);
+  add_row<A, row_y_1, 3>(of_outputs, rows, y_before);
+#pragma GCC unroll 4
+  for (int q = 0; q < quad_registers<A>; ++q) sum.r[q] += of_outputs.r[q];
   return sum;
 }
 

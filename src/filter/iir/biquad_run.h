@@ -21,6 +21,7 @@ struct transposed_form {
   template <int Sections, class A> TAV_INLINE static size_t begin(const section_run<A>& run, const A* d, size_t) {
     const A* taps = run.taps;
     A        x0 = peek(run.src), x1 = peek(run.src + 1);
+#pragma GCC unroll 2
     for (int s = 0; s < Sections; ++s, taps += section_taps, d += entries) {
       const A y0     = plus(times(taps[0], x0), d[0]);
       const A y1     = minus(plus(plus(times(taps[0], x1), d[1]), times(taps[1], x0)), times(taps[3], y0));
@@ -56,12 +57,14 @@ struct direct_form {
   }
 };
 
-// One pass over the data: `Sections` sections of each channel, from `first` on.
+// One pass over the data: `Sections` sections of each channel, from `first` on. Loops over channels and sections are
+// unrolled so that histories stay in registers.
 template <class Form, class A, int Channels, int Sections>
 void run_pass(const channels<A, Channels>& data, size_t first, size_t n) {
   section_history<A> history[Channels][Sections];
   section_run<A>     run[Channels];
   size_t             head = 0;
+#pragma GCC unroll 2
   for (int k = 0; k < Channels; ++k) {
     const cascade<A>& c = *data.of[k];
     run[k]              = {c.taps + section_taps * first, c.rows + first, history[k], data.src[k], data.dst[k]};
@@ -69,7 +72,9 @@ void run_pass(const channels<A, Channels>& data, size_t first, size_t n) {
     run[k].src += head, run[k].dst += head;
   }
   run_sections<A, Channels, Sections>(run, n - head);
+#pragma GCC unroll 2
   for (int k = 0; k < Channels; ++k)
+#pragma GCC unroll 2
     for (int s = 0; s < Sections; ++s)
       Form::end(history[k][s], data.of[k]->taps + section_taps * (first + s),
                 data.of[k]->delay + Form::entries * (first + s));
@@ -84,14 +89,17 @@ template <class Form, class A> void run_from(const cascade<A>& c, int first, con
   if (first < c.sections) run_pass<Form, A, 1, 1>({{&c}, {src}, {dst}}, size_t(first), n);
 }
 
-// Two channels, section against section; the longer cascade finishes alone.
+// Two channels. Each has pairs of sections of its own; of two odd cascades the first sections make a pass together,
+// which in short blocks is not worth one more.
 template <class Form, class A> void run_pair(channels<A, 2> data, size_t n) {
-  int s = 0;
-  for (; s < data.of[0]->sections && s < data.of[1]->sections; ++s) {
-    run_pass<Form, A, 2, 1>(data, size_t(s), n);
+  constexpr size_t long_enough = 64;
+  const auto       odd         = [&](int k) { return data.of[k]->sections % 2 != 0; };
+  const bool       together    = odd(0) && odd(1) && n >= long_enough;
+  if (together) {
+    run_pass<Form, A, 2, 1>(data, 0, n);
     for (int k = 0; k < 2; ++k) data.src[k] = data.dst[k];
   }
-  for (int k = 0; k < 2; ++k) run_from<Form>(*data.of[k], s, data.src[k], data.dst[k], n);
+  for (int k = 0; k < 2; ++k) run_from<Form>(*data.of[k], together ? 1 : 0, data.src[k], data.dst[k], n);
 }
 
 }  // namespace tav::TAV_VARIANT::iir

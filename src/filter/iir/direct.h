@@ -1,6 +1,7 @@
 // What the filters without a state share: taps of 16 bits with a binary exponent.
 #pragma once
 #include "filter/iir/set_up.h"
+#include "vector/to_integer.h"
 
 namespace tav::TAV_VARIANT::iir {
 
@@ -8,27 +9,25 @@ namespace tav::TAV_VARIANT::iir {
 class direct_exponent {
  public:
   // Past `enough` every tap is 0 in single precision, and every other value of a delay line is beyond 32 bits.
-  explicit direct_exponent(int exponent) : exponent_(unsigned(exponent < enough ? exponent : enough)) {}
+  explicit direct_exponent(int exponent) : exponent_(exponent < enough ? exponent : enough) {}
 
-  Tav32f value(Tav32s v) const { return Tav32f(v * power(bias - exponent_)); }  // rounded once
+  Tav32f value(Tav32s v) const { return Tav32f(v * power_of_two_minus<Tav64f>(exponent_)); }  // rounded once
 
   // Half away from 0, saturated.
   Tav32s nearest_integer(Tav32f v) const {
-    const double x = v * power(bias + exponent_);
+    const double x = v * power_of_two_minus<Tav64f>(-exponent_);
     return saturated_32s(x < 0 ? x - 0.5 : x + 0.5);
   }
-  Tav32s cut_off_integer(Tav32f v) const { return saturated_32s(v * power(bias + exponent_)); }
+  Tav32s cut_off_integer(Tav32f v) const { return saturated_32s(v * power_of_two_minus<Tav64f>(-exponent_)); }
 
  private:
-  static constexpr int      enough = 1000;
-  static constexpr unsigned bias   = 1023;
+  static constexpr int enough = 1000;
 
-  static double power(unsigned field) { return __builtin_bit_cast(double, Tav64u(field) << 52); }
   static Tav32s saturated_32s(double x) {  // and cut off; the limit for a NaN
     return x >= 2147483647.0 ? INT32_MAX : x > -2147483648.0 ? Tav32s(x) : INT32_MIN;
   }
 
-  unsigned exponent_;
+  int exponent_;
 };
 
 inline Tav32u wrapped_product(Tav32s a, Tav32s b) { return Tav32u(a) * Tav32u(b); }

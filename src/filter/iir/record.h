@@ -24,11 +24,6 @@ inline constexpr size_t block_samples = 1024;  // what the mixed forms and the a
 // Records start on a 32-byte boundary of the block, wherever that lies.
 inline constexpr uintptr_t iir_alignment = 32;
 
-inline Tav8u* iir_start(void* block) {
-  Tav8u* const bytes = static_cast<Tav8u*>(block);
-  return bytes + (-reinterpret_cast<uintptr_t>(bytes) & (iir_alignment - 1));
-}
-
 // The record with what brings its tables to a 16-byte boundary: 48 bytes where pointers have 32 bits, 96 where they
 // have 64. This is all by which the sizes of states differ between the targets.
 inline constexpr size_t iir_head = (sizeof(iir_record<Tav32f>) + 15) & ~size_t(15);

@@ -17,8 +17,7 @@ template <class Structure, class State> uint64_t bytes_of_state(int n) {
 
 // A size that 32 bits cannot hold wraps.
 template <class Structure, class State> TavStatus state_size(int n, int* size) {
-  if (!size) return tavStatusNullPointer;
-  if (n < 1) return tavStatusBadIirOrder;
+  if (const TavStatus bad = check_set_up<tavStatusBadIirOrder>(n, size)) return bad;
   *size = int(uint32_t(bytes_of_state<Structure, State>(n)));
   return tavStatusOk;
 }
@@ -38,7 +37,7 @@ template <class Structure, class State>
 TavStatus build_state(State** state, const arithmetic_of<State>* taps, int n, const tap_of<State>* dly, void* mem,
                       origin from) {
   using A         = arithmetic_of<State>;
-  Tav8u* const at = iir_start(mem);
+  Tav8u* const at = align_up<iir_alignment>(mem);
   auto&        r  = *reinterpret_cast<iir_record<A>*>(at);
   iir_block    block(at);
   r = {};
@@ -64,20 +63,15 @@ TavStatus build_allocated(State** state, const arithmetic_of<State>* taps, int n
   });
 }
 
-template <class... P> TavStatus check_set_up(int n, const P*... p) {
-  if (any_null(p...)) return tavStatusNullPointer;
-  return n < 1 ? tavStatusBadIirOrder : tavStatusOk;
-}
-
 template <class Structure, class State>
 TavStatus init(State** state, const arithmetic_of<State>* taps, int n, const tap_of<State>* dly, Tav8u* buf) {
-  if (const TavStatus bad = check_set_up(n, state, taps, buf)) return bad;
+  if (const TavStatus bad = check_set_up<tavStatusBadIirOrder>(n, state, taps, buf)) return bad;
   return build_state<Structure, State>(state, taps, n, dly, buf, origin::caller);
 }
 
 template <class Structure, class State>
 TavStatus init_alloc(State** state, const arithmetic_of<State>* taps, int n, const tap_of<State>* dly) {
-  if (const TavStatus bad = check_set_up(n, state, taps)) return bad;
+  if (const TavStatus bad = check_set_up<tavStatusBadIirOrder>(n, state, taps)) return bad;
   return build_allocated<Structure, State>(state, taps, n, dly);
 }
 
@@ -85,7 +79,7 @@ TavStatus init_alloc(State** state, const arithmetic_of<State>* taps, int n, con
 template <class Structure, class State>
 TavStatus init_converted(State** state, const tap_of<State>* taps, int n, int tapsFactor, const tap_of<State>* dly,
                          Tav8u* buf) {
-  if (const TavStatus bad = check_set_up(n, state, taps, buf)) return bad;
+  if (const TavStatus bad = check_set_up<tavStatusBadIirOrder>(n, state, taps, buf)) return bad;
   const converted_taps<arithmetic_of<State>> converted(taps, Structure::tap_count(unsigned(n)), tapsFactor);
   if (!converted.data()) return tavStatusNoMemory;
   return build_state<Structure, State>(state, converted.data(), n, dly, buf, origin::caller);
@@ -94,7 +88,7 @@ TavStatus init_converted(State** state, const tap_of<State>* taps, int n, int ta
 template <class Structure, class State>
 TavStatus init_alloc_converted(State** state, const tap_of<State>* taps, int n, int tapsFactor,
                                const tap_of<State>* dly) {
-  if (const TavStatus bad = check_set_up(n, state, taps)) return bad;
+  if (const TavStatus bad = check_set_up<tavStatusBadIirOrder>(n, state, taps)) return bad;
   if (!allocatable<Structure, State>(n)) return tavStatusNoMemory;  // before that many taps are read
   const converted_taps<arithmetic_of<State>> converted(taps, Structure::tap_count(unsigned(n)), tapsFactor);
   if (!converted.data()) return tavStatusNoMemory;

@@ -75,8 +75,11 @@ TEST(Record, IdWords) {
 }
 
 TEST(Record, AlignUp) {
-  for (uintptr_t a : {64u, 1u, 63u, 65u, 127u, 128u})
-    EXPECT_EQ(reinterpret_cast<uintptr_t>(align_up(reinterpret_cast<void*>(a))), (a + 63) / 64 * 64);
+  for (uintptr_t a : {64u, 1u, 31u, 33u, 63u, 65u, 127u, 128u}) {
+    void* const p = reinterpret_cast<void*>(a);
+    EXPECT_EQ(reinterpret_cast<uintptr_t>(align_up(p)), (a + 63) / 64 * 64);
+    EXPECT_EQ(reinterpret_cast<uintptr_t>(align_up<16>(p)), (a + 15) / 16 * 16);
+  }
 }
 
 TEST(Record, AllocateBuildFree) {
