@@ -110,9 +110,11 @@ template <class T> void contest(const row& r, const std::vector<contender<T>>& c
   measure(r, x, contenders, fill);
 }
 
-// A contest whose contenders may differ in last places: their results, of type D, by `tolerance` times their size.
+// A contest whose contenders may differ in last places: the first `count` of their results, of type D, by `tolerance`
+// times their size. A count of 0: as many as there are elements.
 template <class D, class T>
-void near_contest(const row& r, double tolerance, const std::vector<contender<T>>& contenders, call<T> fill = ramp<T>) {
+void near_contest(const row& r, double tolerance, const std::vector<contender<T>>& contenders, call<T> fill = ramp<T>,
+                  int count = 0) {
   if (!wanted(r)) return;
   constexpr int   n       = 1003;
   const arrays<T> x       = pooled<T>();
@@ -120,16 +122,25 @@ void near_contest(const row& r, double tolerance, const std::vector<contender<T>
     fill(x, n);
     c.run(x, n);
     const D* out = reinterpret_cast<const D*>(x.out);
-    return std::vector<D>(out, out + n);
+    return std::vector<D>(out, out + (count == 0 ? n : count));
   };
   const std::vector<D> expected = results(contenders[0]);
   for (const auto& c : contenders) {
     const std::vector<D> got  = results(c);
     bool                 same = true;
-    for (int i = 0; i < n; ++i) same &= std::abs(double(got[i]) - expected[i]) <= tolerance * std::abs(expected[i]);
+    for (size_t i = 0; i < got.size(); ++i)
+      same &= std::abs(double(got[i]) - double(expected[i])) <= tolerance * std::abs(double(expected[i]));
     require_same(r, c.name, same);
   }
   measure(r, x, contenders, fill);
+}
+
+// The same where an array becomes one result of type D, which each contender writes to the start of x.out; a result of
+// several numbers (a complex one, a mean and a deviation) is `numbers` of type D.
+template <class D, class T>
+void summary_contest(const row& r, double tolerance, const std::vector<contender<T>>& contenders,
+                     call<T> fill = ramp<T>, int numbers = 1) {
+  near_contest<D>(r, tolerance, contenders, fill, numbers);
 }
 
 struct family {

@@ -37,6 +37,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   set(tav_s8_options -fschedule-insns -fsched-pressure)   # in-order processors want loads well ahead of their use
 else()
   list(APPEND tav_code_options -fno-vectorize -fno-slp-vectorize)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    list(APPEND tav_code_options -mstack-alignment=4)   # or clang reads the arguments as if they were aligned
+  endif()
   set(tav_s8_options)
 endif()
 

@@ -14,7 +14,7 @@
 //   shape .......................... below
 //   partial start() const .......... what every partial result begins with
 //   void many(partial&, registers...) const
-//   void join(partial&, const partial&) const
+//   void join(partial&, const partial&) const     if there are several partial results
 //   auto total(const partial&) const  across the lanes
 //   void one(total&, elements...) const
 //
@@ -27,7 +27,7 @@ namespace tav::TAV_VARIANT {
 
 struct reduce_shape {
   int  step;                // elements of each array in one call of many()
-  int  partials   = 4;      // a power of two
+  int  partials   = 4;      // a power of two; 1 where additions are so short that none waits
   bool tail_again = false;  // the last elements are read again, in a vector, instead of one by one
 };
 
@@ -54,10 +54,12 @@ template <class Op, class... S> TAV_INLINE auto reduce(const Op& op, size_t len,
     }
   }
 
+  if constexpr (partials > 1) {
 #pragma GCC unroll 4
-  for (int half = partials / 2; half > 0; half /= 2)
+    for (int half = partials / 2; half > 0; half /= 2)
 #pragma GCC unroll 8
-    for (int k = 0; k < half; ++k) op.join(p[k], p[k + half]);
+      for (int k = 0; k < half; ++k) op.join(p[k], p[k + half]);
+  }
 
   auto total = op.total(p[0]);
   for (; done < len; ++done) op.one(total, peek(src + done)...);

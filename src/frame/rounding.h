@@ -44,7 +44,18 @@ template <class T> inline T held(T v) {
   return v;
 }
 
+// The same for values of any type, by way of memory.
+template <class T> inline T settled(T v) {
+  __asm__ volatile("" : "+m"(v));
+  return v;
+}
+
 // The control word of the extended-precision unit: 64-bit precision, to nearest, all exceptions masked.
+//
+// What it puts back, the caller's environment, includes which registers of the unit are in use. Naming them all keeps
+// the compiler from holding a number in one of them across either change.
+#define TAV_ALL_OF_THE_UNIT "st", "st(1)", "st(2)", "st(3)", "st(4)", "st(5)", "st(6)", "st(7)"
+
 class extended_mode {
  public:
   extended_mode() {
@@ -52,12 +63,12 @@ class extended_mode {
     __asm__ volatile("fnstcw %0" : "=m"(word));
     changed_ = (word & field) != value;
     if (!changed_) return;
-    __asm__ volatile("fnstenv %0" : "=m"(callers_));
+    __asm__ volatile("fnstenv %0" : "=m"(callers_) : : TAV_ALL_OF_THE_UNIT);
     word = uint16_t((word & ~field) | value);
     __asm__ volatile("fldcw %0" : : "m"(word) : "memory");
   }
   ~extended_mode() {
-    if (changed_) __asm__ volatile("fldenv %0" : : "m"(callers_) : "memory");
+    if (changed_) __asm__ volatile("fldenv %0" : : "m"(callers_) : "memory", TAV_ALL_OF_THE_UNIT);
   }
   extended_mode(const extended_mode&)            = delete;
   extended_mode& operator=(const extended_mode&) = delete;
@@ -71,5 +82,7 @@ class extended_mode {
   environment callers_;  // flags included: one raised here must not trap under the caller's masks
   bool        changed_;
 };
+
+#undef TAV_ALL_OF_THE_UNIT
 
 }  // namespace tav
