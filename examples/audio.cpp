@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 
 namespace {
@@ -55,8 +56,22 @@ void Meter::add(const std::string& name, double seconds) {
 }
 
 void Meter::print(double sound_seconds) const {
-  std::printf("  %-18s %7s %11s %14s\n", "function", "calls", "time", "x real time");
+  std::printf("  %-30s %7s %11s %14s\n", "function", "calls", "time", "x real time");
   for (const Entry& entry : entries_)
-    std::printf("  %-18s %7d %8.3f ms %14.0f\n", entry.name.c_str(), entry.calls, 1e3 * entry.seconds,
+    std::printf("  %-30s %7d %8.3f ms %14.0f\n", entry.name.c_str(), entry.calls, 1e3 * entry.seconds,
                 sound_seconds / entry.seconds);
+}
+
+int example(const char* name, const char* usage, int argc, char** argv, void (*run)(char** names)) {
+  if (argc != 2 + std::count(usage, usage + std::strlen(usage), ' ')) {
+    std::fprintf(stderr, "usage: %s %s\n", name, usage);
+    return 2;
+  }
+  try {
+    run(argv + 1);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s: %s\n", name, error.what());
+    return 1;
+  }
+  return 0;
 }

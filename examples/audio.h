@@ -3,6 +3,7 @@
 
 #include <tavs.h>
 
+#include <algorithm>
 #include <chrono>
 #include <stdexcept>
 #include <string>
@@ -48,3 +49,6 @@ class Meter {
 
   std::vector<Entry> entries_;
 };
+
+// What main does: calls run() with the arguments, as many as `usage` has words. Tells what is wrong, if something is.
+int example(const char* name, const char* usage, int argc, char** argv, void (*run)(char** names));

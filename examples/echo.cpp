@@ -1,10 +1,8 @@
 // Gives a recording echoes behind each word and, as no room can, in front of it.
 //   echo in.wav out.wav out.png
 // The echoes in front are ordinary echoes of the recording played backwards, turned round again.
-#include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <exception>
 
 #include "audio.h"
 #include "plot.h"
@@ -21,10 +19,6 @@ struct Echo {
 };
 
 int samples_in(double seconds, const Sound& sound) { return static_cast<int>(std::lround(seconds * sound.rate)); }
-
-void scale(std::vector<float>& samples, float gain) {
-  for (float& sample : samples) sample *= gain;
-}
 
 Sound with_margins(const Sound& recording, Meter& meter) {
   const int margin = samples_in(margin_seconds, recording);
@@ -45,7 +39,7 @@ Sound echoes(const Sound& sound, const Echo& echo, Meter& meter) {
     const int n = std::min(block, sound.size() - at);
     meter.call("tavsCopy_32f", tavsCopy_32f, line.data(), wet.samples.data() + at, n);
     meter.call("tavsAdd_32f", tavsAdd_32f, sound.samples.data() + at, line.data(), newest.data(), n);
-    scale(newest, echo.gain);
+    meter.call("tavsMulC_32f_I", tavsMulC_32f_I, echo.gain, newest.data(), n);
     if (n < delay) meter.call("tavsMove_32f", tavsMove_32f, line.data() + n, line.data(), delay - n);
     meter.call("tavsCopy_32f", tavsCopy_32f, newest.data(), line.data() + delay - n, n);
   }
@@ -60,42 +54,43 @@ Sound echoes_in_front(const Sound& sound, const Echo& echo, Meter& meter) {
   return wet;
 }
 
-void keep_from_clipping(Sound& sound) {
+void keep_from_clipping(Sound& sound, Meter& meter) {
   float peak = 0;
-  for (float sample : sound.samples) peak = std::max(peak, std::fabs(sample));
-  if (peak > peak_allowed) scale(sound.samples, peak_allowed / peak);
+  meter.call("tavsNorm_Inf_32f", tavsNorm_Inf_32f, sound.samples.data(), sound.size(), &peak);
+  if (peak > peak_allowed)
+    meter.call("tavsMulC_32f_I", tavsMulC_32f_I, peak_allowed / peak, sound.samples.data(), sound.size());
 }
 
-void run(const char* in, const char* out_wav, const char* out_png) {
+// The range of the samples in each of so many moments, as one line up and down.
+Panel wave(const char* title, const Sound& sound, Meter& meter) {
+  const int moment = std::max(1, sound.size() / 1200);
+  Curve     curve{"", {}, {}};
+  for (int at = 0; at + moment <= sound.size(); at += moment) {
+    float low = 0, high = 0;
+    meter.call("tavsMinMax_32f", tavsMinMax_32f, sound.samples.data() + at, moment, &low, &high);
+    for (float level : {low, high}) curve.x.push_back(static_cast<double>(at) / sound.rate), curve.y.push_back(level);
+  }
+  return {title, {"Time (s)", 0, sound.seconds()}, {"Level (full scale = 1)", -1, 1}, {curve}, {}};
+}
+
+void run(char** names) {
   Meter       meter;
-  const Sound dry    = with_margins(read_sound(in), meter);
+  const Sound dry    = with_margins(read_sound(names[0]), meter);
   const Sound behind = echoes(dry, {0.28, 0.5F}, meter);
   const Sound front  = echoes_in_front(dry, {0.19, 0.45F}, meter);
 
   Sound mix = dry;
   for (const Sound* part : {&behind, &front})
-    meter.call("tavsAdd_32f", tavsAdd_32f, mix.samples.data(), part->samples.data(), mix.samples.data(), mix.size());
-  keep_from_clipping(mix);
+    meter.call("tavsAdd_32f_I", tavsAdd_32f_I, part->samples.data(), mix.samples.data(), mix.size());
+  keep_from_clipping(mix, meter);
 
-  std::printf("echo: %.1f s of sound at %d Hz\n", mix.seconds(), mix.rate);
+  write_sound(names[1], mix);
+  plot(names[2], {wave("The recording", dry, meter), wave("With echoes in front and behind", mix, meter)});
+  std::printf("echo: behind each word, and in front of it\n");
   meter.print(mix.seconds());
-  write_sound(out_wav, mix);
-  plot_waves(out_png, {{"The recording", dry}, {"With echoes in front and behind", mix}});
-  std::printf("  wrote %s and %s\n", out_wav, out_png);
+  std::printf("  wrote %s and %s\n", names[1], names[2]);
 }
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  if (argc != 4) {
-    std::fprintf(stderr, "usage: echo in.wav out.wav out.png\n");
-    return 2;
-  }
-  try {
-    run(argv[1], argv[2], argv[3]);
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "echo: %s\n", error.what());
-    return 1;
-  }
-  return 0;
-}
+int main(int argc, char** argv) { return example("echo", "in.wav out.wav out.png", argc, argv, run); }

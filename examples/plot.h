@@ -1,16 +1,38 @@
-// Plots of sound.
+// Pictures by gnuplot, written as PNG: curves, and maps of levels over time and frequency.
 #pragma once
 
+#include <limits>
 #include <string>
 #include <vector>
 
-#include "audio.h"
+inline constexpr double automatic = std::numeric_limits<double>::quiet_NaN();
 
-struct Wave {
-  std::string  title;
-  const Sound& sound;
+struct Axis {
+  std::string label;  // with its unit
+  double      low = automatic, high = automatic;
+  bool        logarithmic = false;
 };
 
-// Writes a PNG with one panel for each wave, one below the other on the same scales: seconds, and full scale -1 to 1.
-// Each pixel column shows the range of its samples, and within it their root mean square.
-void plot_waves(const std::string& path, const std::vector<Wave>& waves);
+struct Curve {
+  std::string         title;
+  std::vector<double> x, y;
+  std::string         style = "lines";  // as gnuplot knows it
+};
+
+// Levels in decibels, a column for each moment from `start` on.
+struct Map {
+  int                columns, rows;
+  double             start, seconds_a_column, hertz_a_row;
+  double             lowest, highest;  // of the colours
+  std::vector<float> levels;
+};
+
+struct Panel {
+  std::string        title;
+  Axis               x, y;
+  std::vector<Curve> curves;
+  std::vector<Map>   maps;  // none or one, below the curves
+};
+
+// Panels one below the other.
+void plot(const std::string& path, const std::vector<Panel>& panels);
