@@ -68,7 +68,7 @@ template <class Terms> struct largest_of {
 
 // Rules: how a norm comes from its terms.
 
-template <class Terms> struct largest {
+template <class Terms> struct largest_term {
   template <class... S> static auto of(size_t len, const S*... src) { return reduce(largest_of<Terms>{}, len, src...); }
 };
 
@@ -88,7 +88,7 @@ template <class Terms> struct sum_in_singles {
   }
 };
 
-template <class Rule> struct root_of {
+template <class Rule> struct root_of_sum {
   template <class... S> static auto of(size_t len, const S*... src) { return norm_root(Rule::of(len, src...)); }
 };
 
@@ -108,20 +108,20 @@ template <class T> using squares    = real_terms<square_term, T>;
 using pair_squares                  = pair_terms<squared_term>;
 using pair_magnitudes               = pair_terms<root_term>;
 
-using inf_32f  = norm<Tav32f, Tav32f, largest<magnitudes<Tav32f>>>;
-using inf_64f  = norm<Tav64f, Tav64f, largest<magnitudes<Tav64f>>>;
-using inf_32fc = norm<Tav32fc, Tav32f, root_of<largest<pair_squares>>>;
-using inf_64fc = norm<Tav64fc, Tav64f, root_of<largest<pair_squares>>>;
+using inf_32f  = norm<Tav32f, Tav32f, largest_term<magnitudes<Tav32f>>>;
+using inf_64f  = norm<Tav64f, Tav64f, largest_term<magnitudes<Tav64f>>>;
+using inf_32fc = norm<Tav32fc, Tav32f, root_of_sum<largest_term<pair_squares>>>;
+using inf_64fc = norm<Tav64fc, Tav64f, root_of_sum<largest_term<pair_squares>>>;
 
 using l1_32f  = norm<Tav32f, Tav32f, sum_in_singles<magnitudes<Tav32f>>>;
 using l1_64f  = norm<Tav64f, Tav64f, sum<magnitudes<Tav64f>>>;
 using l1_32fc = norm<Tav32fc, Tav64f, sum<pair_magnitudes>>;
 using l1_64fc = norm<Tav64fc, Tav64f, sum<pair_magnitudes>>;
 
-using l2_32f  = norm<Tav32f, Tav32f, root_of<sum_in_singles<squares<Tav32f>>>>;
-using l2_64f  = norm<Tav64f, Tav64f, root_of<sum<squares<Tav64f>>>>;
-using l2_32fc = norm<Tav32fc, Tav64f, on_parts<root_of<sum<wide_squares>>>>;
-using l2_64fc = norm<Tav64fc, Tav64f, on_parts<root_of<sum<squares<Tav64f>>>>>;
+using l2_32f  = norm<Tav32f, Tav32f, root_of_sum<sum_in_singles<squares<Tav32f>>>>;
+using l2_64f  = norm<Tav64f, Tav64f, root_of_sum<sum<squares<Tav64f>>>>;
+using l2_32fc = norm<Tav32fc, Tav64f, on_parts<root_of_sum<sum<wide_squares>>>>;
+using l2_64fc = norm<Tav64fc, Tav64f, on_parts<root_of_sum<sum<squares<Tav64f>>>>>;
 
 }  // namespace
 

@@ -108,7 +108,7 @@ template <int Arrays> struct sum_of_word_squares {
 
 // The norms as integers, of one array or of the difference of two.
 
-struct largest {
+struct largest_of_words {
   template <class... S> static int64_t of(size_t len, const S*... src) {
     return reduce(largest_word<sizeof...(S)>{}, len, src...);
   }
@@ -153,19 +153,19 @@ struct rounded_root : types<Tav16s, Tav16s, Tav32s> {
 
 }  // namespace
 
-TAV_BIND(Norm_Inf_16s32f, &one_array<as_float<largest>>)
+TAV_BIND(Norm_Inf_16s32f, &one_array<as_float<largest_of_words>>)
 TAV_BIND(Norm_L1_16s32f, &one_array<as_float<magnitudes>>)
 TAV_BIND(Norm_L2_16s32f, &one_array<root_as_float>)
-TAV_BIND(Norm_Inf_16s32s_Sfs, (&one_array<shifted<largest, Tav32s>, int>))
+TAV_BIND(Norm_Inf_16s32s_Sfs, (&one_array<shifted<largest_of_words, Tav32s>, int>))
 TAV_BIND(Norm_L1_16s32s_Sfs, (&one_array<shifted<magnitudes, Tav32s>, int>))
 TAV_BIND(Norm_L1_16s64s_Sfs, (&one_array<shifted<magnitudes, Tav64s>, int>))
 TAV_BIND(Norm_L2Sqr_16s64s_Sfs, (&one_array<shifted<squares, Tav64s>, int>))
 TAV_BIND(Norm_L2_16s32s_Sfs, (&one_array<rounded_root, int>))
 
-TAV_BIND(NormDiff_Inf_16s32f, &two_arrays_to_one<as_float<largest>>)
+TAV_BIND(NormDiff_Inf_16s32f, &two_arrays_to_one<as_float<largest_of_words>>)
 TAV_BIND(NormDiff_L1_16s32f, &two_arrays_to_one<as_float<magnitudes>>)
 TAV_BIND(NormDiff_L2_16s32f, &two_arrays_to_one<root_as_float>)
-TAV_BIND(NormDiff_Inf_16s32s_Sfs, (&two_arrays_to_one<shifted<largest, Tav32s>, int>))
+TAV_BIND(NormDiff_Inf_16s32s_Sfs, (&two_arrays_to_one<shifted<largest_of_words, Tav32s>, int>))
 TAV_BIND(NormDiff_L1_16s32s_Sfs, (&two_arrays_to_one<shifted<magnitudes, Tav32s>, int>))
 TAV_BIND(NormDiff_L1_16s64s_Sfs, (&two_arrays_to_one<shifted<magnitudes, Tav64s>, int>))
 TAV_BIND(NormDiff_L2Sqr_16s64s_Sfs, (&two_arrays_to_one<shifted<squares, Tav64s>, int>))
