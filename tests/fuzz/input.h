@@ -1,0 +1,105 @@
+// Decisions drawn from the bytes that the fuzzer gives, and memory of exactly the size that a call may touch.
+#pragma once
+#include <stdio.h>
+#include <stdlib.h>
+
+#include <algorithm>
+#include <memory>
+
+#include "harness/data.h"
+
+namespace fuzz {
+
+// What no call may do. The sanitizers tell the rest.
+[[noreturn]] inline void fail(const char* call, const char* what) {
+  fprintf(stderr, "fuzz: %s: %s\n", call, what);
+  abort();
+}
+
+// Bytes first, and when they have run out numbers that follow from them.
+class input {
+ public:
+  input(const uint8_t* bytes, size_t size) : next_(bytes), end_(bytes + size), more_(hash(bytes, size)) {}
+
+  int  below(int n) { return int(word() % uint32_t(n)); }
+  bool one_in(int n) { return below(n) == n - 1; }
+
+  // Mostly a length that some loop ends at, and now and then one that is refused.
+  int length() {
+    const int kinds[] = {below(16), below(64), below(300), 16 * below(20), 1};
+    return 1 + kinds[below(5)];
+  }
+  int refused_length() {
+    const int refused[] = {0, -1, -300, INT32_MIN};
+    return refused[below(4)];
+  }
+
+  // Of any size, small ones in the majority.
+  int number() {
+    const int kind = below(8);
+    if (kind < 4) return below(9) - 4;
+    if (kind < 7) return below(161) - 80;
+    return int(more_.value<int32_t>());
+  }
+
+  test::source_of_data& data() { return more_; }
+
+ private:
+  static uint32_t hash(const uint8_t* bytes, size_t size) {
+    uint32_t h = 2166136261;
+    for (size_t i = 0; i < size; ++i) h = (h ^ bytes[i]) * 16777619;
+    return h;
+  }
+
+  uint32_t word() {
+    if (end_ - next_ < 2) return more_.bits();
+    const uint32_t v = uint32_t(next_[0]) << 8 | next_[1];
+    next_ += 2;
+    return v;
+  }
+
+  const uint8_t *      next_, *end_;
+  test::source_of_data more_;
+};
+
+// An array that ends where its memory ends, at some address, and what it was filled with.
+class memory {
+ public:
+  template <class T>
+  memory(input& in, size_t elements, T) : bytes_(elements * sizeof(T)), offset_(size_t(in.below(17))) {
+    block_.reset(static_cast<uint8_t*>(malloc(offset_ + bytes_)));
+    const std::vector<T> values = in.data().values<T>(elements);
+    if (bytes_ != 0) memcpy(data(), values.data(), bytes_);
+    keep();
+  }
+
+  uint8_t* data() const { return block_.get() + offset_; }
+  void     keep() { before_.assign(data(), data() + bytes_); }
+  bool     as_before() const { return bytes_ == 0 || memcmp(data(), before_.data(), bytes_) == 0; }
+  void     restore() { std::copy(before_.begin(), before_.end(), data()); }
+
+  std::vector<uint8_t> content() const { return {data(), data() + bytes_}; }
+
+ private:
+  struct release {
+    void operator()(uint8_t* p) const { free(p); }
+  };
+
+  size_t                              bytes_, offset_;
+  std::unique_ptr<uint8_t[], release> block_;
+  std::vector<uint8_t>                before_;
+};
+
+using caller = void (*)(const char* name, void (*function)(), input& in);
+struct row {
+  const char* name;
+  void (*function)();
+  caller call;
+};
+
+void add_array_rows(std::vector<row>& rows);
+void add_fft_rows(std::vector<row>& rows);
+void add_fir_rows(std::vector<row>& rows);
+void add_iir_rows(std::vector<row>& rows);
+
+}  // namespace fuzz
