@@ -1,7 +1,8 @@
 // The program: confines the peers, then holds every contest and writes one JSON file.
 //
-//   bench VARIANT OUT.json [--quick] [--filter=REGEX]
+//   bench VARIANT OUT.json [--quick] [--alone] [--filter=REGEX]
 //
+// --quick measures less often, --alone this library only.
 // Repetitions of a contest's contenders are shuffled, so that what disturbs the machine meets all alike; the report
 // takes medians.
 #include "harness.h"
@@ -24,7 +25,7 @@ constexpr size_t small_elements = 64, l1_bytes = 8 << 10, l2_bytes = 128 << 10, 
 constexpr size_t curve_from = 16;
 constexpr size_t skew       = 1280;  // between the arrays modulo a page: a load must not look like a recent store's
 
-bool       quick = false;
+bool       quick = false, alone = false;
 std::regex filter(".");
 
 std::vector<void (*)()>& families() {
@@ -95,8 +96,9 @@ std::vector<point> points_of(const row& r, size_t element_bytes) {
 void measure_point(const row& r, const point& p, int n, const std::vector<entry>& entries) {
   const bool   table = *p.place != 0, memory = p.bytes == memory_bytes;
   const double goal        = !table ? 0 : memory ? r.in_memory : r.in_cache;
-  const int    repetitions = quick ? 3 : table ? 11 : 5;
+  const int    repetitions = quick || alone ? 3 : 5;
   for (const entry& e : entries) {
+    if (alone && e.name != ours) continue;
     const auto measure = [&, goal](benchmark::State& state) {
       e.measure(state);
       state.SetLabel(p.place);
@@ -105,14 +107,14 @@ void measure_point(const row& r, const point& p, int n, const std::vector<entry>
       state.counters["goal"]     = *r.against == 0 || e.name == r.against ? goal : 0;
     };
     const std::string name = std::string(r.name) + "/" + std::to_string(p.bytes) + "/" + e.name;
-    benchmark::RegisterBenchmark(name.c_str(), measure)->Repetitions(repetitions)->MinTime(quick ? 0.003 : 0.01);
+    benchmark::RegisterBenchmark(name.c_str(), measure)->Repetitions(repetitions)->MinTime(quick ? 0.003 : 0.005);
   }
   benchmark::RunSpecifiedBenchmarks(&results, ".");
   benchmark::ClearRegisteredBenchmarks();
 }
 
 static int run(int argc, char** argv) {
-  if (argc < 3) fail("usage: bench VARIANT OUT.json [--quick] [--filter=REGEX]");
+  if (argc < 3) fail("usage: bench VARIANT OUT.json [--quick] [--alone] [--filter=REGEX]");
   const std::string variant = argv[1], target = sizeof(void*) == 4 ? "i686" : "x86_64";
   confine(variant, argv);
   for (int i = 3; i < argc; ++i) {
@@ -121,6 +123,8 @@ static int run(int argc, char** argv) {
       quick = true;
     else if (option.rfind("--filter=", 0) == 0)
       filter = option.substr(9);
+    else if (option == "--alone")
+      alone = true;
     else
       fail("unknown option " + option);
   }

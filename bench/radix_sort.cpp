@@ -30,10 +30,13 @@ template <class T> arrays<T> unsorted() {
   return x;
 }
 
+// Other keys each time: sorts that branch do much better on keys that the processor has learned.
 template <class T> entry entry_of(const contender<T>& c, const arrays<T>& x, int n) {
   return {c.name, [run = c.run, x, n](benchmark::State& state) {
+            arrays<T> part = x;
             for (auto _ : state) {
-              run(x, n);
+              run(part, n);
+              part.a = part.a + 2 * n <= x.a + counts[4] ? part.a + n : x.a;
               benchmark::ClobberMemory();
             }
           }};

@@ -36,9 +36,10 @@ struct byte_counts {
   }
 
   template <size_t Tables> TAV_INLINE void clear() {
-    for (size_t v = 0; v < Tables * 256; v += 16)
+    for (size_t table = 0; table < Tables; ++table)
+      for (size_t v = 0; v < 256; v += 16)
 #pragma GCC unroll 4
-      for (size_t k = 0; k < 16; k += 4) store<access::aligned>(of[0] + v + k, _mm_setzero_si128());
+        for (size_t k = 0; k < 16; k += 4) store<access::aligned>(of[table] + v + k, _mm_setzero_si128());
   }
 
   TAV_INLINE void add_up() {

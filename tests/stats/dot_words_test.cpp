@@ -88,7 +88,8 @@ template <auto* Real, auto* Complex> void check_scales() {
   each_build<Real>([&] {
     for (Tav64s sum : sums_next_to_ties()) {
       const words v(sum), other(-sum / 3);
-      const auto  pairs_a = pairs_of(v.a, other.a), pairs_b = pairs_of(v.b, {});
+      const auto  pairs_a  = pairs_of(v.a, other.a);
+      const auto  pairs_b  = pairs_of(v.b, std::vector<Tav16s>(pairs_a.size()));
       const auto  of_pairs = oracle::dot(pairs_a, pairs_b);
       for (int s : scales) {
         using D = typename dot_call<Real>::result;
