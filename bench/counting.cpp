@@ -67,11 +67,11 @@ BENCH_FAMILY(counting) {
                   {{ours, [](auto& x, int n) { tavsCountInRange_32s(x.a, n, result<int>(x), -50, 50); }},
                    {loop, [](auto& x, int n) { *result<int>(x) = plain::count_between(x.a, n, -50, 50); }}},
                   noise<Tav32s>);
-  contest<Tav32f>({.name = "ZeroCrossing_32f", .bytes = 4, .in_cache = 3, .in_memory = 1},
+  contest<Tav32f>({.name = "ZeroCrossing_32f", .bytes = 4, .in_cache = 1, .in_memory = 1},
                   {{ours, [](auto& x, int n) { tavsZeroCrossing_32f(x.a, unsigned(n), x.out, 0); }},
                    {loop, [](auto& x, int n) { *x.out = plain::zero_crossings(x.a, n); }}},
                   noise<Tav32f>);
-  contest<Tav16s>({.name = "ZeroCrossing_16s32f", .bytes = 2, .in_cache = 3, .in_memory = 1},
+  contest<Tav16s>({.name = "ZeroCrossing_16s32f", .bytes = 2, .in_cache = 1, .in_memory = 1},
                   {{ours, [](auto& x, int n) { tavsZeroCrossing_16s32f(x.a, unsigned(n), result<Tav32f>(x), 0); }},
                    {loop, [](auto& x, int n) { *result<Tav32f>(x) = plain::zero_crossings(x.a, n); }}},
                   noise<Tav16s>);
