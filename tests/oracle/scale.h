@@ -57,7 +57,7 @@ requires(sizeof(T) < 8) T scaled(int64_t r, int s) {
     return saturated<T>(r * (int64_t(1) << -s));
   }
   if (s > 41) return 0;
-  const int64_t unit = int64_t(1) << s, below = r >= 0 ? r / unit : -((-r + unit - 1) / unit), rest = r - below * unit;
+  const int64_t unit = int64_t(1) << s, below = r >> s, rest = r & (unit - 1);  // a division, rounded down
   const bool    up = rest * 2 > unit || (rest * 2 == unit && below % 2 != 0);
   return saturated<T>(below + up);
 }
