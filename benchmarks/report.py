@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes docs/performance/report.md and its plots from the four runs that bench/run made.
+"""Writes docs/performance/report.md and its plots from the four runs that ./bench made.
 
 usage: report.py RUNS-FOLDER OUTPUT-FOLDER    (RUNS-FOLDER holds i686-v8.json, i686-s8.json, ...)
 """
@@ -15,7 +15,7 @@ NOISE = 0.03  # a ratio this little below its goal is one with it
 HEADER = """\
 # Performance
 
-Written by `bench/run`; no figure here is typed by hand.
+Written by `./bench`; no figure here is typed by hand.
 
 | | |
 |---|---|
