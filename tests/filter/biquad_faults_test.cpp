@@ -5,70 +5,38 @@ using namespace test;
 
 namespace {
 
-template <size_t I, class... P> void add_null(std::vector<fault<P...>>& faults) {
-  faults.push_back({"argument " + std::to_string(I) + " null", tavStatusNullPointer,
-                    [](arguments<P...>& a) { a.template spoil<I>(); }});
-}
-
-template <size_t I, TavStatus Status, class... P> void add_count_below_one(std::vector<fault<P...>>& faults) {
-  faults.push_back({"count 0", Status, [](arguments<P...>& a) { a.template set<I>(0); }});
-  faults.push_back(
-      {"lowest count", Status, [](arguments<P...>& a) { a.template set<I>(std::numeric_limits<int>::min()); }});
-}
-
 // numBq, size: the pointer comes first.
-constexpr auto size_query = []<class... P>(TavStatus (*f)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_null<1>(faults);
-  add_count_below_one<0, tavStatusBadIirOrder>(faults);
-  each([&] { expect_faults(f, faults); });
-};
+void size_query(const tested& f) { faults(f).null(1).below_one(0, tavStatusBadIirOrder).expect(); }
 
 // state, taps, numBq, and behind the line, which may be null, perhaps the memory.
-template <class... P> void set_up_of(TavStatus (*f)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  constexpr size_t         last = sizeof...(P) - 1;
-  add_null<0>(faults);
-  add_null<1>(faults);
-  if constexpr (std::is_same_v<std::tuple_element_t<last, std::tuple<P...>>, Tav8u*>) add_null<last>(faults);
-  add_count_below_one<2, tavStatusBadIirOrder>(faults);
-  each([&] { expect_faults(f, faults); });
+void set_up(const tested& f) {
+  const size_t last = f.count - 1;
+  faults       bad(f);
+  bad.null(0).null(1);
+  if (f.is<Tav8u*>(last)) bad.null(last);
+  bad.below_one(2, tavStatusBadIirOrder).expect();
 }
-constexpr auto set_up = [](auto f, auto each) { set_up_of(f, each); };
 
 // A state and its line; the blocks of random bytes are no states.
-template <bool Null_line_is_bad, class... P> void delay_line_of(TavStatus (*f)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_null<0>(faults);
-  if (Null_line_is_bad) add_null<1>(faults);
-  faults.push_back({"no state", tavStatusBadContext, [](arguments<P...>&) {}});
-  each([&] { expect_faults(f, faults); });
-}
-constexpr auto get_line = [](auto f, auto each) { delay_line_of<true>(f, each); };
-constexpr auto set_line = [](auto f, auto each) { delay_line_of<false>(f, each); };
+void get_line(const tested& f) { faults(f).null(0).null(1).add("no state", tavStatusBadContext).expect(); }
+void set_line(const tested& f) { faults(f).null(0).add("no state", tavStatusBadContext).expect(); }
 
 // Arrays, length, channels; what the arrays hold is looked at later.
-template <TavStatus Too_few, class... P> void channels_of(TavStatus (*f)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  constexpr size_t length = std::is_pointer_v<std::tuple_element_t<1, std::tuple<P...>>> ? 2 : 1;
-  add_below_one<length>(faults);
-  add_count_below_one<length + 1, Too_few>(faults);
-  each([&] { expect_faults(f, faults); });
+template <TavStatus Too_few> void channels_of(const tested& f) {
+  const size_t length = f.is_pointer(1) ? 2 : 1;
+  faults(f).null_pointers().below_one(length).below_one(length + 1, Too_few).expect();
 }
-constexpr auto channels        = [](auto f, auto each) { channels_of<tavStatusBadChannelCount>(f, each); };
-constexpr auto scaled_channels = [](auto f, auto each) { channels_of<tavStatusBadChannelCount64>(f, each); };
+constexpr auto channels        = channels_of<tavStatusBadChannelCount>;
+constexpr auto scaled_channels = channels_of<tavStatusBadChannelCount64>;
 
 // The number of sections, the pointers, the length if there is one.
-template <size_t Sections, class... P> void direct_of(TavStatus (*f)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_count_below_one<Sections, tavStatusBadIirOrder>(faults);
-  add_null_pointers(faults);
-  constexpr size_t length = Sections - 2;
-  if constexpr (std::is_same_v<std::tuple_element_t<length, std::tuple<P...>>, int>) add_below_one<length>(faults);
-  each([&] { expect_faults(f, faults); });
+template <size_t Sections> void direct(const tested& f) {
+  const size_t length = Sections - 2;
+  faults       bad(f);
+  bad.below_one(Sections, tavStatusBadIirOrder).null_pointers();
+  if (f.is<int>(length)) bad.below_one(length);
+  bad.expect();
 }
-template <size_t Sections> constexpr auto direct = [](auto f, auto each) { direct_of<Sections>(f, each); };
 
 TAV_FAULTS(IIR64f_32s_IPSfs, scaled_channels)
 TAV_FAULTS(IIR64f_32s_PSfs, scaled_channels)

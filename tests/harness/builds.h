@@ -12,6 +12,7 @@
 
 #include "frame/entry.h"
 #include "harness/call.h"
+#include "harness/callback.h"
 
 namespace test {
 
@@ -22,14 +23,10 @@ struct build {
 
 const std::vector<build>& builds_of(bool split);
 void                      select(const build& b);
+void                      each_build_of(bool split, callback<void()> check);
 
 template <auto* Export, class Check> void each_build(const Check& check) {
-  for (const build& b : builds_of(tav::is_split<Export>)) {
-    SCOPED_TRACE(b.name);
-    select(b);
-    check();
-    if (testing::Test::HasFatalFailure()) return;
-  }
+  each_build_of(tav::is_split<Export>, check);
 }
 
 }  // namespace test

@@ -2,165 +2,176 @@
 // that it writes nothing. One TAV_FAULTS row an export; a test demands that every export of the list has one.
 //
 //   TAV_FAULTS(Copy_8u, pointers_then_length)
+//
+// A row names a function of `tested`, which lists the faults in the order in which the export looks for them:
+//
+//   void pointers_then_length(const tested& f) { faults(f).null_pointers().below_one(f.count - 1).expect(); }
 #pragma once
 #include <gtest/gtest.h>
 
-#include <array>
+#include <functional>
 #include <limits>
 #include <string>
-#include <tuple>
+#include <utility>
 
 #include "harness/builds.h"
 #include "harness/data.h"
 
 namespace test {
 
+class arguments;
+
+struct parameter {
+  enum { pointer, integer, real, other } kind;
+  size_t      bytes;
+  const void* type;  // the same for the same type
+};
+
+template <class T> inline constexpr char type_mark = 0;
+
+template <class T>
+inline constexpr parameter parameter_of{std::is_pointer_v<T>          ? parameter::pointer
+                                        : std::is_integral_v<T>       ? parameter::integer
+                                        : std::is_floating_point_v<T> ? parameter::real
+                                                                      : parameter::other,
+                                        sizeof(T), &type_mark<T>};
+
+// An export whatever its parameters.
+struct tested {
+  void (*function)();
+  TavStatus (*call)(void (*function)(), const arguments&);
+  const parameter* parameters;
+  size_t           count;
+  bool             split;
+
+  bool                    is_pointer(size_t i) const { return parameters[i].kind == parameter::pointer; }
+  template <class T> bool is(size_t i) const { return parameters[i].type == &type_mark<T>; }
+  size_t                  pointers() const;
+};
+
+// The arguments of a call: pointers show to blocks of random bytes, which must survive; numbers are `number`.
+class arguments {
+ public:
+  arguments(const tested& f, source_of_data& data, int number);
+
+  void                    spoil(size_t i) { values_[i] = {}; }  // null, or zero
+  void                    set_lowest(size_t i);
+  template <class V> void set(size_t i, V v) {
+    if constexpr (std::is_pointer_v<V>)
+      put(i, const_cast<void*>(static_cast<const void*>(v)));
+    else if constexpr (std::is_floating_point_v<V>)
+      set_real(i, v);
+    else
+      f_.parameters[i].kind == parameter::real ? set_real(i, double(v)) : put(i, int64_t(v));
+  }
+  template <class T> T get(size_t i) const {
+    T v;
+    memcpy(&v, &values_[i], sizeof v);
+    return v;
+  }
+
+  TavStatus call() const { return f_.call(f_.function, *this); }
+  bool      untouched() const { return blocks_ == kept_; }
+
+ private:
+  struct alignas(16) value {
+    uint8_t bytes[16];
+  };
+  template <class V> void put(size_t i, V v) { memcpy(&(values_[i] = {}), &v, sizeof v); }
+  void                    set_real(size_t i, double v);
+
+  const tested&                     f_;
+  std::vector<std::vector<uint8_t>> blocks_, kept_;
+  std::vector<value>                values_;
+};
+
+template <class... P> TavStatus call_erased(void (*function)(), const arguments& a) {
+  return [&]<size_t... I>(std::index_sequence<I...>) {
+    return checked_call(reinterpret_cast<TavStatus (*)(P...)>(function), a.get<P>(I)...);
+  }
+  (std::index_sequence_for<P...>{});
+}
+
+template <class R, class... P> tested erased(R (*function)(P...), bool split) {
+  static constexpr parameter all[] = {parameter_of<P>..., {}};
+  tested                     f{reinterpret_cast<void (*)()>(function), nullptr, all, sizeof...(P), split};
+  if constexpr (std::is_same_v<R, TavStatus>) f.call = call_erased<P...>;
+  return f;
+}
+
+using fault_order = void (*)(const tested&);
+
 struct fault_row {
   const char* name;
-  void (*run)();
+  tested      function;
+  fault_order run;
 };
 
 std::vector<fault_row>& fault_rows();
 
 struct fault_registration {
-  fault_registration(const char* name, void (*run)()) { fault_rows().push_back({name, run}); }
+  fault_registration(const fault_row& row) { fault_rows().push_back(row); }
 };
 
 #define TAV_FAULTS(name, ...)                             \
   static const test::fault_registration faults_of_##name( \
-      "tavs" #name, [] { __VA_ARGS__(&::tavs##name, [](auto check) { test::each_build<&::tavs##name>(check); }); });
+      {"tavs" #name, test::erased(&::tavs##name, tav::is_split<&::tavs##name>), __VA_ARGS__});
 
-// The arguments of a call: pointers show to blocks of random bytes, which must survive; scalars are `scalar`.
-template <class... P> class arguments {
+// Changes of the arguments that are faults, in the order of the checks.
+class faults {
  public:
-  static constexpr size_t count = sizeof...(P);
+  using change = std::function<void(arguments&)>;
 
-  arguments(source_of_data& data, int scalar) {
-    for (auto& b : blocks_) b = data.values<uint8_t>(b.size()), kept_ = blocks_;
-    [&]<size_t... I>(std::index_sequence<I...>) { (reset<I>(scalar), ...); }
-    (std::index_sequence_for<P...>{});
+  explicit faults(const tested& f) : f_(f) {}
+
+  faults& add(
+      std::string what, TavStatus status, change apply = [](arguments&) {});
+  faults& null(size_t i);
+  faults& null_pointers();
+  faults& below_one(size_t i, TavStatus status = tavStatusBadSize);
+
+  template <class V> faults& value(size_t i, V v, TavStatus status) {
+    return add("argument " + std::to_string(i) + " is " + testing::PrintToString(v), status,
+               [i, v](arguments& a) { a.set(i, v); });
   }
 
-  template <size_t I> static constexpr bool is_pointer = std::is_pointer_v<std::tuple_element_t<I, std::tuple<P...>>>;
-
-  template <size_t I> void          spoil() { std::get<I>(values_) = {}; }
-  template <size_t I, class V> void set(V v) { std::get<I>(values_) = std::tuple_element_t<I, std::tuple<P...>>(v); }
-
-  template <class R> R call(R (*function)(P...)) const {
-    return std::apply([&](P... p) { return checked_call(function, p...); }, values_);
-  }
-  bool untouched() const { return blocks_ == kept_; }
+  // Calls with each fault, and with each two, of which the earlier one wins, in each build; with each one alone when
+  // `first` has changed the arguments.
+  void expect() const;
+  void expect_after(const std::string& what, const change& first) const;
 
  private:
-  template <size_t I> void reset(int scalar) {
-    using T = std::tuple_element_t<I, std::tuple<P...>>;
-    if constexpr (std::is_pointer_v<T>)
-      std::get<I>(values_) = reinterpret_cast<T>(blocks_[I].data());
-    else if constexpr (std::is_arithmetic_v<T>)
-      std::get<I>(values_) = T(scalar);
-    else
-      std::get<I>(values_) = T{};
-  }
-
-  using block                      = std::vector<uint8_t>;
-  std::array<block, count> blocks_ = filled(), kept_;
-  std::tuple<P...>         values_;
-
-  static std::array<block, count> filled() {
-    std::array<block, count> all;
-    for (auto& b : all) b.resize(256);
-    return all;
-  }
-};
-
-// A change of the arguments that is a fault, and what it must give.
-template <class... P> struct fault {
-  std::string what;
-  TavStatus   status;
-  void (*apply)(arguments<P...>&);
-};
-
-template <class... P> void expect_faults(TavStatus (*function)(P...), const std::vector<fault<P...>>& faults) {
-  source_of_data data(7);
-  const auto     expect = [&](const std::string& what, TavStatus status, auto... applied) {
-    arguments<P...> a(data, 2);
-    (applied(a), ...);
-    EXPECT_EQ(a.call(function), status) << what;
-    EXPECT_TRUE(a.untouched()) << what << ": something was written";
+  struct fault {
+    std::string what;
+    TavStatus   status;
+    change      apply;
   };
-  for (size_t i = 0; i < faults.size(); ++i) {
-    expect(faults[i].what, faults[i].status, faults[i].apply);
-    for (size_t j = i + 1; j < faults.size(); ++j)  // of two faults the earlier row wins
-      expect(faults[i].what + " and " + faults[j].what, faults[i].status, faults[j].apply, faults[i].apply);
-  }
-}
+  void expect_one(const std::string& what, TavStatus status, std::initializer_list<const change*> changes) const;
 
-template <class... P> void add_null_pointers(std::vector<fault<P...>>& faults) {
-  [&]<size_t... I>(std::index_sequence<I...>) {
-    const auto add = [&]<size_t K>() {
-      if constexpr (arguments<P...>::template is_pointer<K>)
-        faults.push_back({"argument " + std::to_string(K) + " null", tavStatusNullPointer,
-                          [](arguments<P...>& a) { a.template spoil<K>(); }});
-    };
-    (add.template operator()<I>(), ...);
-  }
-  (std::index_sequence_for<P...>{});
-}
-
-template <size_t I, class... P> void add_below_one(std::vector<fault<P...>>& faults) {
-  faults.push_back({"length 0", tavStatusBadSize, [](arguments<P...>& a) { a.template set<I>(0); }});
-  faults.push_back({"length -1", tavStatusBadSize, [](arguments<P...>& a) { a.template set<I>(-1); }});
-  faults.push_back({"lowest length", tavStatusBadSize,
-                    [](arguments<P...>& a) { a.template set<I>(std::numeric_limits<int>::min()); }});
-}
-
-template <size_t I, class... P> void add_negative(std::vector<fault<P...>>& faults) {
-  faults.push_back({"argument " + std::to_string(I) + " is -1", tavStatusBadSize,
-                    [](arguments<P...>& a) { a.template set<I>(-1); }});
-}
+  const tested&      f_;
+  std::vector<fault> all_;
+};
 
 // The orders, to be named in rows. The length is the argument at From_end places from the last one.
-template <size_t From_end, class Build, class... P>
-void pointers_then_length_at(TavStatus (*function)(P...), const Build& each) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  add_below_one<sizeof...(P) - 1 - From_end>(faults);
-  each([&] { expect_faults(function, faults); });
+template <size_t From_end> void pointers_then_length_at(const tested& f) {
+  faults(f).null_pointers().below_one(f.count - 1 - From_end).expect();
 }
-
-template <size_t From_end, class Build, class... P>
-void length_then_pointers_at(TavStatus (*function)(P...), const Build& each) {
-  std::vector<fault<P...>> faults;
-  add_below_one<sizeof...(P) - 1 - From_end>(faults);
-  add_null_pointers(faults);
-  each([&] { expect_faults(function, faults); });
+template <size_t From_end> void length_then_pointers_at(const tested& f) {
+  faults(f).below_one(f.count - 1 - From_end).null_pointers().expect();
 }
 
 // Of a length without a sign only 0 is bad.
-template <size_t From_end, class Build, class... P>
-void pointers_then_unsigned_length_at(TavStatus (*function)(P...), const Build& each) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  faults.push_back(
-      {"length 0", tavStatusBadSize, [](arguments<P...>& a) { a.template set<sizeof...(P) - 1 - From_end>(0); }});
-  each([&] { expect_faults(function, faults); });
+template <size_t From_end> void pointers_then_unsigned_length_at(const tested& f) {
+  faults(f).null_pointers().value(f.count - 1 - From_end, 0, tavStatusBadSize).expect();
 }
 
-inline constexpr auto pointers_then_length = [](auto function, auto each) {
-  pointers_then_length_at<0>(function, each);
-};
-inline constexpr auto length_then_pointers = [](auto function, auto each) {
-  length_then_pointers_at<0>(function, each);
-};
+inline constexpr fault_order pointers_then_length = pointers_then_length_at<0>;
+inline constexpr fault_order length_then_pointers = length_then_pointers_at<0>;
 // With a scale factor behind the length.
-inline constexpr auto pointers_then_length_scaled = [](auto function, auto each) {
-  pointers_then_length_at<1>(function, each);
-};
-inline constexpr auto length_then_pointers_scaled = [](auto function, auto each) {
-  length_then_pointers_at<1>(function, each);
-};
+inline constexpr fault_order pointers_then_length_scaled = pointers_then_length_at<1>;
+inline constexpr fault_order length_then_pointers_scaled = length_then_pointers_at<1>;
 
 // For exports that report no status: their rows stand so that the list is complete.
-inline constexpr auto no_status = [](auto, auto) {};
+inline void no_status(const tested&) {}
 
 }  // namespace test

@@ -57,56 +57,45 @@ template <class T> T magnitude_level(source_of_data& data) {
 }
 
 // Rows of faults. The arguments behind the length begin with the level, or with the lower one of a pair.
-template <class... P> inline constexpr size_t level_at = (size_t(std::is_pointer_v<P>) + ...) + 1;
+inline size_t level_of(const tested& f) { return f.pointers() + 1; }
 
-template <class... P> std::vector<fault<P...>> pointers_and_length(TavStatus (*)(P...)) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  add_below_one<level_at<P...> - 1>(faults);
-  return faults;
+inline faults pointers_and_length(const tested& f) {
+  faults bad(f);
+  bad.null_pointers().below_one(f.pointers());
+  return bad;
 }
 
-template <class... P> void add_relations(std::vector<fault<P...>>& faults) {
-  const auto add = [&]<int Relation>() {
-    faults.push_back({"relation " + std::to_string(Relation), tavStatusBadArgument,
-                      [](arguments<P...>& a) { a.template set<sizeof...(P) - 1>(Relation); }});
-  };
-  add.template operator()<2>(), add.template operator()<1>(), add.template operator()<3>();
-  add.template operator()<5>(), add.template operator()<-4>(), add.template operator()<260>();
+inline void add_relations(faults& bad, size_t at) {
+  for (int relation : {2, 1, 3, 5, -4, 260}) bad.value(at, relation, tavStatusBadArgument);
 }
 
-template <bool Relation, class... P> void add_negative_level(std::vector<fault<P...>>& faults) {
-  faults.push_back({"level -1", tavStatusNegativeLevel, [](arguments<P...>& a) {
-                      a.template set<level_at<P...>>(-1);
-                      if constexpr (Relation) a.template set<sizeof...(P) - 1>(4);
-                    }});
-  faults.push_back({"lowest level", tavStatusNegativeLevel, [](arguments<P...>& a) {
-                      using level = std::tuple_element_t<level_at<P...>, std::tuple<P...>>;
-                      a.template set<level_at<P...>>(std::numeric_limits<level>::lowest());
-                      if constexpr (Relation) a.template set<sizeof...(P) - 1>(0);
-                    }});
+inline void any_level(const tested& f) { pointers_and_length(f).expect(); }
+
+inline void level_not_below_0(const tested& f) {
+  const size_t level = level_of(f);
+  pointers_and_length(f)
+      .value(level, -1, tavStatusNegativeLevel)
+      .add("lowest level", tavStatusNegativeLevel, [=](arguments& a) { a.set_lowest(level); })
+      .expect();
 }
 
-template <bool Relation, bool Magnitude, class... P> void threshold_faults(TavStatus (*function)(P...), auto each) {
-  auto faults = pointers_and_length(function);
-  if constexpr (Relation) add_relations(faults);
-  if constexpr (Magnitude) add_negative_level<Relation>(faults);
-  each([&] { expect_faults(function, faults); });
+inline void relation(const tested& f) {
+  faults bad = pointers_and_length(f);
+  add_relations(bad, f.count - 1);
+  bad.expect();
 }
 
-inline constexpr auto any_level         = [](auto f, auto each) { threshold_faults<false, false>(f, each); };
-inline constexpr auto level_not_below_0 = [](auto f, auto each) { threshold_faults<false, true>(f, each); };
-inline constexpr auto relation          = [](auto f, auto each) { threshold_faults<true, false>(f, each); };
-inline constexpr auto relation_then_level_not_below_0 = [](auto f, auto each) {
-  threshold_faults<true, true>(f, each);
-};
-
-template <class... P> void levels_crossed_of(TavStatus (*function)(P...), auto each) {
-  auto faults = pointers_and_length(function);
-  faults.push_back(
-      {"levels crossed", tavStatusBadThresholdPair, [](arguments<P...>& a) { a.template set<level_at<P...>>(3); }});
-  each([&] { expect_faults(function, faults); });
+inline void relation_then_level_not_below_0(const tested& f) {
+  const size_t level = level_of(f), last = f.count - 1;
+  faults       bad = pointers_and_length(f);
+  add_relations(bad, last);
+  bad.add("level -1", tavStatusNegativeLevel, [=](arguments& a) { a.set(level, -1), a.set(last, 4); })
+      .add("lowest level", tavStatusNegativeLevel, [=](arguments& a) { a.set_lowest(level), a.set(last, 0); })
+      .expect();
 }
-inline constexpr auto levels_not_crossed = [](auto f, auto each) { levels_crossed_of(f, each); };
+
+inline void levels_not_crossed(const tested& f) {
+  pointers_and_length(f).value(level_of(f), 3, tavStatusBadThresholdPair).expect();
+}
 
 }  // namespace test

@@ -5,8 +5,8 @@ using namespace test;
 
 namespace {
 
-const auto length_before_result = [](auto function, auto each) { pointers_then_length_at<1>(function, each); };
-const auto length_before_scaled = [](auto function, auto each) { pointers_then_length_at<2>(function, each); };
+constexpr auto length_before_result = pointers_then_length_at<1>;
+constexpr auto length_before_scaled = pointers_then_length_at<2>;
 
 }  // namespace
 

@@ -73,25 +73,16 @@ template <class T> search<T> searching_both_indices(TavStatus (*f)(const T*, int
           }};
 }
 
-// The faults: an index that is optional may be null at every other fault, too.
-
-template <class Each, class... P> void faults_around_optional_index(TavStatus (*function)(P...), const Each& each) {
-  std::vector<fault<P...>> faults{
-      {"no source", tavStatusNullPointer, [](arguments<P...>& a) { a.template spoil<0>(); }},
-      {"no source, no index", tavStatusNullPointer,
-       [](arguments<P...>& a) { a.template spoil<0>(), a.template spoil<3>(); }},
-      {"no result", tavStatusNullPointer, [](arguments<P...>& a) { a.template spoil<2>(); }},
-      {"no result, no index", tavStatusNullPointer,
-       [](arguments<P...>& a) { a.template spoil<2>(), a.template spoil<3>(); }},
-      {"length 0, no index", tavStatusBadSize,
-       [](arguments<P...>& a) { a.template set<1>(0), a.template spoil<3>(); }}};
-  add_below_one<1>(faults);
-  each([&] { expect_faults(function, faults); });
+// An index that is optional may be null at every other fault, too.
+inline void around_optional_index(const tested& f) {
+  faults bad(f);
+  bad.null(0).null(2).below_one(1);
+  bad.expect();
+  bad.expect_after("no index", [](arguments& a) { a.spoil(3); });
 }
 
-inline constexpr auto around_length_and_result  = [](auto f, auto each) { pointers_then_length_at<1>(f, each); };
-inline constexpr auto around_length_and_both    = [](auto f, auto each) { pointers_then_length_at<2>(f, each); };
-inline constexpr auto around_length_and_indices = [](auto f, auto each) { pointers_then_length_at<4>(f, each); };
-inline constexpr auto around_optional_index     = [](auto f, auto each) { faults_around_optional_index(f, each); };
+inline constexpr auto around_length_and_result  = pointers_then_length_at<1>;
+inline constexpr auto around_length_and_both    = pointers_then_length_at<2>;
+inline constexpr auto around_length_and_indices = pointers_then_length_at<4>;
 
 }  // namespace test

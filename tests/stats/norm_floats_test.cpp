@@ -233,7 +233,7 @@ TEST(NormOfFloats, LongSumsOfSingles) {
 
 }  // namespace
 
-inline constexpr auto result_at_the_end = [](auto function, auto each) { pointers_then_length_at<1>(function, each); };
+inline constexpr auto result_at_the_end = pointers_then_length_at<1>;
 
 #define CASE(form)                           \
   TAV_FAULTS(Norm_##form, result_at_the_end) \

@@ -189,10 +189,8 @@ TEST(NormOfWords, RoundingModes) {
 
 }  // namespace
 
-inline constexpr auto scale_behind_result = [](auto function, auto each) {
-  pointers_then_length_at<2>(function, each);
-};
-inline constexpr auto result_at_the_end = [](auto function, auto each) { pointers_then_length_at<1>(function, each); };
+inline constexpr auto scale_behind_result = pointers_then_length_at<2>;
+inline constexpr auto result_at_the_end   = pointers_then_length_at<1>;
 
 #define CASE(form)                             \
   TAV_FAULTS(Norm_##form, scale_behind_result) \

@@ -120,22 +120,20 @@ TEST(SortRadixIndex, KeysFarApart) {
   EXPECT_EQ(std::vector<int>(dst, dst + 4), (std::vector<int>{3, 1, 2, 0}));
 }
 
-template <class Build, class T>
-void index_faults(TavStatus (*function)(const T*, int, int*, int*, int), const Build& each) {
-  using row = fault<const T*, int, int*, int*, int>;
-  std::vector<row> faults;
-  add_null_pointers(faults);
-  const auto add = [&]<int Stride, int Len>() {
-    faults.push_back({"stride " + std::to_string(Stride) + ", length " + std::to_string(Len), tavStatusBadSize,
-                      [](auto& a) { a.template set<1>(Stride), a.template set<4>(Len); }});
+// The size of an element tells the least stride.
+void index_form(const tested& f) {
+  const int size   = f.is<const Tav8u*>(0) ? 1 : f.is<const Tav16s*>(0) || f.is<const Tav16u*>(0) ? 2 : 4;
+  const int lowest = std::numeric_limits<int>::min();
+  faults    bad(f);
+  bad.null_pointers();
+  const auto add = [&](int stride, int len) {
+    bad.add("stride " + std::to_string(stride) + ", length " + std::to_string(len), tavStatusBadSize,
+            [=](arguments& a) { a.set(1, stride), a.set(4, len); });
   };
-  constexpr int size = sizeof(T), lowest = std::numeric_limits<int>::min();
-  add.template operator()<size, 0>(), add.template operator()<size, -1>(), add.template operator()<size, lowest>();
-  add.template operator()<size - 1, 2>(), add.template operator()<0, 2>(), add.template operator()<-1, 2>();
-  add.template operator()<-size, 2>(), add.template operator()<lowest, 2>();
-  each([&] { expect_faults(function, faults); });
+  for (int len : {0, -1, lowest}) add(size, len);
+  for (int stride : {size - 1, 0, -1, -size, lowest}) add(stride, 2);
+  bad.expect();
 }
-inline constexpr auto index_form = [](auto function, auto each) { index_faults(function, each); };
 
 }  // namespace
 

@@ -102,9 +102,9 @@ struct mode {
   oracle::direction direction;
 };
 inline constexpr mode thread_modes[] = {{0, oracle::direction::nearest},
-                                     {rounding_mode::down, oracle::direction::down},
-                                     {rounding_mode::up, oracle::direction::up},
-                                     {rounding_mode::to_zero, oracle::direction::to_zero}};
+                                        {rounding_mode::down, oracle::direction::down},
+                                        {rounding_mode::up, oracle::direction::up},
+                                        {rounding_mode::to_zero, oracle::direction::to_zero}};
 
 // Another control word of the extended-precision unit.
 struct extended_word {
@@ -125,15 +125,11 @@ struct extended_word {
 inline constexpr int accurate_hints[] = {0, 2, -1, INT_MIN, INT_MAX};
 
 // The length is the second argument; below `Least` it is bad.
-template <int Least>
-inline constexpr auto pointers_then_second = [](auto function, auto each) {
-  [&]<class... P>(TavStatus (*)(P...)) {
-    std::vector<fault<P...>> faults;
-    add_null_pointers(faults);
-    add_below_one<1>(faults);
-    if (Least == 2) faults.push_back({"length 1", tavStatusBadSize, [](arguments<P...>& a) { a.template set<1>(1); }});
-    each([&] { expect_faults(function, faults); });
-  }(function);
-};
+template <int Least> void pointers_then_second(const tested& f) {
+  faults bad(f);
+  bad.null_pointers().below_one(1);
+  if (Least == 2) bad.value(1, 1, tavStatusBadSize);
+  bad.expect();
+}
 
 }  // namespace test

@@ -108,14 +108,14 @@ TEST(ZeroCrossing, BeyondSignedLengthsTakesLong) {
 }
 
 // Pointers, length, and the mode last.
-const auto crossing_faults = []<class... P>(TavStatus (*function)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  faults.push_back({"length 0", tavStatusBadSize, [](arguments<P...>& a) { a.template set<1>(0); }});
-  faults.push_back({"mode 3", tavStatusBadZeroCrossingMode, [](arguments<P...>& a) { a.template set<3>(3); }});
-  faults.push_back({"mode -1", tavStatusBadZeroCrossingMode, [](arguments<P...>& a) { a.template set<3>(-1); }});
-  each([&] { expect_faults(function, faults); });
-};
+void crossing_faults(const tested& f) {
+  faults(f)
+      .null_pointers()
+      .value(1, 0, tavStatusBadSize)
+      .value(3, 3, tavStatusBadZeroCrossingMode)
+      .value(3, -1, tavStatusBadZeroCrossingMode)
+      .expect();
+}
 
 }  // namespace
 

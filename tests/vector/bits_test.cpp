@@ -35,21 +35,12 @@ template <auto* Export> void check_copy_bits(bool from_top) {
   });
 }
 
-template <class... P> void bits_then_sizes(TavStatus (*function)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  add_below_one<4>(faults);
-  add_negative<1>(faults);
-  add_negative<3>(faults);
-  each([&] { expect_faults(function, faults); });
+void bits_then_sizes(const tested& f) {
+  faults(f).null_pointers().below_one(4).value(1, -1, tavStatusBadSize).value(3, -1, tavStatusBadSize).expect();
 }
 
-template <class... P> void four_pointers_then_sizes(TavStatus (*function)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  add_below_one<2>(faults);
-  add_negative<4>(faults);
-  each([&] { expect_faults(function, faults); });
+void four_pointers_then_sizes(const tested& f) {
+  faults(f).null_pointers().below_one(2).value(4, -1, tavStatusBadSize).expect();
 }
 
 TAV_FAULTS(Copy_1u, bits_then_sizes)

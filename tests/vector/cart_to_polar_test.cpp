@@ -72,31 +72,22 @@ TEST(CartToPolar, As16sc) {
 
 // The sources and the magnitudes, then the length, then the phases: their pointer alone missing, the magnitudes are
 // there already.
-template <class... P> void polar_faults_of(TavStatus (*function)(P...), const auto& each) {
-  using all               = arguments<P...>;
-  constexpr size_t phases = (size_t(std::is_pointer_v<P>) + ...) - 1;  // pointers come first
-
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  faults.pop_back();
-  add_below_one<phases + 1>(faults);
-  each([&] {
-    expect_faults(function, faults);
+void polar_faults(const tested& f) {
+  const size_t phases    = f.pointers() - 1;  // pointers come first
+  const auto   no_phases = [=](arguments& a) { a.spoil(phases); };
+  faults       bad(f);
+  for (size_t i = 0; i < phases; ++i) bad.null(i);
+  bad.below_one(phases + 1);
+  bad.expect();
+  bad.expect_after("no phases", no_phases);
+  each_build_of(f.split, [&] {
     source_of_data data(7);
-    for (const auto& f : faults) {
-      all a(data, 2);
-      a.template spoil<phases>();
-      f.apply(a);
-      EXPECT_EQ(a.call(function), f.status) << f.what << " and no phases";
-      EXPECT_TRUE(a.untouched()) << f.what << " and no phases";
-    }
-    all a(data, 2);
-    a.template spoil<phases>();
-    EXPECT_EQ(a.call(function), tavStatusNullPointer);
+    arguments      a(f, data, 2);
+    no_phases(a);
+    EXPECT_EQ(a.call(), tavStatusNullPointer);
     EXPECT_FALSE(a.untouched()) << "no magnitudes";
   });
 }
-inline constexpr auto polar_faults = [](auto function, auto each) { polar_faults_of(function, each); };
 
 }  // namespace
 

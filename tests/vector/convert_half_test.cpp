@@ -212,15 +212,9 @@ TEST(ConvertHalf, ThreadModesDoNotCountFor16s) {
 }
 
 // Pointers, length, and the round mode last.
-template <size_t Length, class... P> void then_round_mode(TavStatus (*function)(P...), const auto& each) {
-  std::vector<fault<P...>> bad;
-  add_null_pointers(bad);
-  add_below_one<Length>(bad);
-  bad.push_back(
-      {"round mode 2", tavStatusBadRoundMode, [](arguments<P...>& a) { a.template set<Length + 1>(ties_away); }});
-  each([&] { expect_faults(function, bad); });
+void pointers_length_mode(const tested& f) {
+  faults(f).null_pointers().below_one(2).value(3, ties_away, tavStatusBadRoundMode).expect();
 }
-const auto pointers_length_mode = [](auto function, auto each) { then_round_mode<2>(function, each); };
 
 // The rows above hold the round mode 2 throughout; the other faults do not need it.
 TEST(ConvertHalf, FaultsInOtherRoundModes) {

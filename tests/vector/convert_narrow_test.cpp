@@ -97,9 +97,9 @@ TEST(ConvertToNarrower, KnownValues) {
   EXPECT_EQ(std::vector(ints, ints + 2), (std::vector<Tav32s>{-1, 0}));
 }
 
-const auto pointers_then_length_rounded   = [](auto f, auto each) { pointers_then_length_at<2>(f, each); };
-const auto pointers_then_unsigned         = [](auto f, auto each) { pointers_then_unsigned_length_at<0>(f, each); };
-const auto pointers_then_unsigned_rounded = [](auto f, auto each) { pointers_then_unsigned_length_at<2>(f, each); };
+constexpr auto pointers_then_length_rounded   = pointers_then_length_at<2>;
+constexpr auto pointers_then_unsigned         = pointers_then_unsigned_length_at<0>;
+constexpr auto pointers_then_unsigned_rounded = pointers_then_unsigned_length_at<2>;
 
 }  // namespace
 

@@ -86,7 +86,7 @@ TEST(ConvertToInteger, KnownValues) {
       large, 2, {INT64_MAX, INT64_MAX - 1023, INT64_MIN, INT64_MIN, 4503599627370498, -4294967297});
 }
 
-const auto pointers_then_length_rounded = [](auto f, auto each) { pointers_then_length_at<2>(f, each); };
+constexpr auto pointers_then_length_rounded = pointers_then_length_at<2>;
 
 }  // namespace
 

@@ -210,21 +210,13 @@ TEST(DivC64s, LengthHasNoSign) {
   EXPECT_FALSE(WIFEXITED(status) && WEXITSTATUS(status) == 99);
 }
 
-template <class... P> void pointers_length_then_zero(TavStatus (*function)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  add_below_one<sizeof...(P) - 2>(faults);
-  constexpr size_t constant = sizeof...(P) == 5 ? 1 : 0;
-  using type                = std::tuple_element_t<constant, std::tuple<P...>>;
-  faults.push_back({"constant 0", tavStatusDivideByZero, [](arguments<P...>& a) { a.template set<constant>(type{}); }});
-  each([&] { expect_faults(function, faults); });
-}
-
-template <class... P> void pointer_then_length_0(TavStatus (*function)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  faults.push_back({"length 0", tavStatusBadSize, [](arguments<P...>& a) { a.template set<2>(0u); }});
-  each([&] { expect_faults(function, faults); });
+void pointers_length_then_zero(const tested& f) {
+  const size_t constant = f.count == 5 ? 1 : 0;
+  faults(f)
+      .null_pointers()
+      .below_one(f.count - 2)
+      .add("constant 0", tavStatusDivideByZero, [=](arguments& a) { a.spoil(constant); })
+      .expect();
 }
 
 }  // namespace
@@ -237,6 +229,6 @@ TAV_FAULTS(DivC_16u_Sfs, pointers_length_then_zero)
 TAV_FAULTS(DivC_16u_ISfs, pointers_length_then_zero)
 TAV_FAULTS(DivC_16sc_Sfs, pointers_length_then_zero)
 TAV_FAULTS(DivC_16sc_ISfs, pointers_length_then_zero)
-TAV_FAULTS(DivC_64s_ISfs, pointer_then_length_0)
+TAV_FAULTS(DivC_64s_ISfs, pointers_then_unsigned_length_at<1>)
 TAV_FAULTS(DivCRev_16u, pointers_then_length)
 TAV_FAULTS(DivCRev_16u_I, pointers_then_length)

@@ -177,14 +177,13 @@ TEST(DivCRevFloat, As32f) {
 }
 
 // The constant is the second argument, or the first of the forms in place.
-template <class... P> void pointers_length_then_zero(TavStatus (*function)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  add_below_one<sizeof...(P) - 1>(faults);
-  constexpr size_t constant = sizeof...(P) == 4 ? 1 : 0;
-  using type                = std::tuple_element_t<constant, std::tuple<P...>>;
-  faults.push_back({"constant 0", tavStatusDivideByZero, [](arguments<P...>& a) { a.template set<constant>(type{}); }});
-  each([&] { expect_faults(function, faults); });
+void pointers_length_then_zero(const tested& f) {
+  const size_t constant = f.count == 4 ? 1 : 0;
+  faults(f)
+      .null_pointers()
+      .below_one(f.count - 1)
+      .add("constant 0", tavStatusDivideByZero, [=](arguments& a) { a.spoil(constant); })
+      .expect();
 }
 
 }  // namespace

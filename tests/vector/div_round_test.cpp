@@ -51,14 +51,14 @@ TEST(DivRound, SingleValues) {
   });
 }
 
-template <class... P> void pointers_length_then_mode(TavStatus (*function)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  constexpr size_t length = sizeof...(P) - 3;
-  add_below_one<length>(faults);
-  faults.push_back({"mode -1", tavStatusBadRoundMode, [](arguments<P...>& a) { a.template set<length + 1>(-1); }});
-  faults.push_back({"mode 3", tavStatusBadRoundMode, [](arguments<P...>& a) { a.template set<length + 1>(3); }});
-  each([&] { expect_faults(function, faults); });
+void pointers_length_then_mode(const tested& f) {
+  const size_t mode = f.count - 2;
+  faults(f)
+      .null_pointers()
+      .below_one(mode - 1)
+      .value(mode, -1, tavStatusBadRoundMode)
+      .value(mode, 3, tavStatusBadRoundMode)
+      .expect();
 }
 
 }  // namespace

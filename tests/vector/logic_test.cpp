@@ -73,25 +73,12 @@ template <auto* Export, auto* InPlace, class T> void check_not() {
 }
 
 // The usual order, and no constant that would be a shortcut comes before it.
-template <int Constant, size_t At>
-constexpr auto also_with_constant = [](auto function, auto each) {
-  pointers_then_length(function, each);
-  [&]<class... P>(TavStatus (*)(P...)) {
-    std::vector<fault<P...>> faults;
-    add_null_pointers(faults);
-    add_below_one<sizeof...(P) - 1>(faults);
-    each([&] {
-      for (const auto& f : faults) {
-        source_of_data  data(5);
-        arguments<P...> a(data, 2);
-        a.template set<At>(Constant);
-        f.apply(a);
-        EXPECT_EQ(a.call(function), f.status) << f.what << ", constant " << Constant;
-        EXPECT_TRUE(a.untouched()) << f.what << ": something was written";
-      }
-    });
-  }(function);
-};
+template <int Constant, size_t At> void also_with_constant(const tested& f) {
+  faults bad(f);
+  bad.null_pointers().below_one(f.count - 1);
+  bad.expect();
+  bad.expect_after("constant " + std::to_string(Constant), [](arguments& a) { a.set(At, Constant); });
+}
 
 #define FAMILY(Name, table, type)                                                                          \
   TEST(Name, As##type) { check_two_sources<&::tavs##Name##_##type, Tav##type>(table); }                    \

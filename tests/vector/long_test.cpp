@@ -16,8 +16,8 @@ template <class T> T sum_then_scaled(T a, T b, int s, ties how) {  // the sum sa
   return oracle::scaled<T>(oracle::saturated<T>(exact(a) + exact(b)), s, how);
 }
 
-constexpr auto add_c_order = [](auto function, auto each) { pointers_then_unsigned_length_at<2>(function, each); };
-constexpr auto mul_c_order = [](auto function, auto each) { pointers_then_unsigned_length_at<1>(function, each); };
+constexpr auto add_c_order = pointers_then_unsigned_length_at<2>;
+constexpr auto mul_c_order = pointers_then_unsigned_length_at<1>;
 
 TAV_FAULTS(Add_64s_Sfs, pointers_then_length_scaled)
 TAV_FAULTS(AddC_64s_Sfs, add_c_order)

@@ -155,20 +155,15 @@ TEST(NormalizeScaled, InAnyModeOfTheCaller) {
 }
 
 // The smallest divisor that counts is a normal number.
-template <class... P> void divisor_last(TavStatus (*function)(P...), auto each) {
-  using R      = std::tuple_element_t<4, std::tuple<P...>>;
-  using limits = std::numeric_limits<R>;
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  add_below_one<2>(faults);
-  const auto add = [&](const char* what, auto spoil) { faults.push_back({what, tavStatusDivideByZero, spoil}); };
-  add("divisor 0", [](arguments<P...>& a) { a.template set<4>(R(0)); });
-  if constexpr (std::is_floating_point_v<R>) {
-    add("divisor -0", [](arguments<P...>& a) { a.template set<4>(-R(0)); });
-    add("subnormal divisor", [](arguments<P...>& a) { a.template set<4>(std::nextafter(limits::min(), R(0))); });
-    add("the same below 0", [](arguments<P...>& a) { a.template set<4>(-std::nextafter(limits::min(), R(0))); });
+void divisor_last(const tested& f) {
+  faults bad(f);
+  bad.null_pointers().below_one(2).value(4, 0, tavStatusDivideByZero);
+  if (!f.is<Tav16s>(4)) {
+    const double below_normal = f.is<Tav32f>(4) ? double(std::nextafter(std::numeric_limits<Tav32f>::min(), 0.0f))
+                                                : std::nextafter(std::numeric_limits<Tav64f>::min(), 0.0);
+    for (double divisor : {-0.0, below_normal, -below_normal}) bad.value(4, divisor, tavStatusDivideByZero);
   }
-  each([&] { expect_faults(function, faults); });
+  bad.expect();
 }
 
 }  // namespace

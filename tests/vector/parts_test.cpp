@@ -125,27 +125,16 @@ BITS(64fc, 64f, uint64_t, 0x7FF0000000000001)
 #undef BITS
 
 // A null source alone is no fault.
-template <class P, class C> void destination_and_a_source_of(TavStatus (*function)(P, P, C, int), const auto& each) {
-  using row = fault<P, P, C, int>;
-  std::vector<row> faults{
-      {"destination null", tavStatusNullPointer, [](auto& a) { a.template spoil<2>(); }},
-      {"both sources null", tavStatusNullPointer, [](auto& a) { a.template spoil<0>(), a.template spoil<1>(); }}};
-  add_below_one<3>(faults);
-  each([&] { expect_faults(function, faults); });
-  for (auto* spoil : {+[](arguments<P, P, C, int>& a) { a.template spoil<0>(); },
-                      +[](arguments<P, P, C, int>& a) { a.template spoil<1>(); }}) {
-    source_of_data data(8);
-    each([&] {
-      arguments<P, P, C, int> length(data, 2), destination(data, 2);
-      spoil(length), spoil(destination);
-      length.template set<3>(0), destination.template spoil<2>();
-      EXPECT_EQ(length.call(function), tavStatusBadSize);
-      EXPECT_EQ(destination.call(function), tavStatusNullPointer);
-      EXPECT_TRUE(length.untouched() && destination.untouched());
-    });
-  }
+void destination_and_a_source(const tested& f) {
+  faults(f)
+      .null(2)
+      .add("both sources null", tavStatusNullPointer, [](arguments& a) { a.spoil(0), a.spoil(1); })
+      .below_one(3)
+      .expect();
+  for (size_t source : {0u, 1u})
+    faults(f).null(2).below_one(3).expect_after("source " + std::to_string(source) + " null",
+                                                [=](arguments& a) { a.spoil(source); });
 }
-const auto destination_and_a_source = [](auto function, auto each) { destination_and_a_source_of(function, each); };
 
 }  // namespace
 

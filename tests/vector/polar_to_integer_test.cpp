@@ -132,17 +132,14 @@ TEST(PolarToCartInteger, InAnyModeOfTheCaller) {
 }
 
 // The count of bits is the last to be looked at.
-template <int Limit, size_t Length, class... P> void polar_faults_at(TavStatus (*function)(P...), auto each) {
-  std::vector<fault<P...>> faults;
-  add_null_pointers(faults);
-  add_below_one<Length>(faults);
-  faults.push_back({"all bits a fraction", tavStatusBadSize, [](arguments<P...>& a) { a.template set<2>(Limit); }});
-  faults.push_back({"too many bits", tavStatusBadSize,
-                    [](arguments<P...>& a) { a.template set<2>(std::numeric_limits<int>::max()); }});
-  each([&] { expect_faults(function, faults); });
+template <int Limit> void polar_faults(const tested& f) {
+  faults(f)
+      .null_pointers()
+      .below_one(4)
+      .value(2, Limit, tavStatusBadSize)
+      .value(2, std::numeric_limits<int>::max(), tavStatusBadSize)
+      .expect();
 }
-template <int Limit>
-constexpr auto polar_faults = [](auto function, auto each) { polar_faults_at<Limit, 4>(function, each); };
 
 TEST(PolarToCartInteger, MostBitsOfFraction) {
   const Tav32s magn = 100, phase = 0;

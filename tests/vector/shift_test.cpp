@@ -81,29 +81,13 @@ template <auto* Export, auto* InPlace, class T> void check_each_count(shifter<T>
 }
 
 // Pointers, length, then the count; and no count, not even one that leaves nothing to do, comes before the first two.
-template <size_t At>
-constexpr auto count_last = [](auto function, auto each) {
-  [&]<class... P>(TavStatus (*)(P...)) {
-    std::vector<fault<P...>> faults;
-    add_null_pointers(faults);
-    add_below_one<sizeof...(P) - 1>(faults);
-    const std::vector<fault<P...>> before = faults;
-    faults.push_back({"count -1", tavStatusBadShift, [](arguments<P...>& a) { a.template set<At>(-1); }});
-    faults.push_back({"lowest count", tavStatusBadShift, [](arguments<P...>& a) { a.template set<At>(INT_MIN); }});
-    each([&] {
-      expect_faults(function, faults);
-      for (int count : {0, 7, 8, 16, 31, 32, 33, INT_MAX})
-        for (const auto& f : before) {
-          source_of_data  data(5);
-          arguments<P...> a(data, 2);
-          a.template set<At>(count);
-          f.apply(a);
-          EXPECT_EQ(a.call(function), f.status) << f.what << ", count " << count;
-          EXPECT_TRUE(a.untouched()) << f.what << ": something was written";
-        }
-    });
-  }(function);
-};
+template <size_t At> void count_last(const tested& f) {
+  faults bad(f);
+  bad.null_pointers().below_one(f.count - 1);
+  for (int count : {0, 7, 8, 16, 31, 32, 33, INT_MAX})
+    bad.expect_after("count " + std::to_string(count), [=](arguments& a) { a.set(At, count); });
+  bad.value(At, -1, tavStatusBadShift).value(At, INT_MIN, tavStatusBadShift).expect();
+}
 
 #define FAMILY(Name, definition, type)                                                                     \
   TEST(Name, EachLayout##type) {                                                                           \

@@ -275,18 +275,9 @@ TEST(SplitJoin, OffsetsBeyond32Bits) {
 }
 
 // The frames, the sizes, the array of lines.
-template <size_t Frames, size_t Lines, size_t Count>
-const auto frames_sizes_lines = [](auto function, auto each) {
-  const auto run = [&]<class... P>(TavStatus (*f)(P...)) {
-    std::vector<fault<P...>> faults;
-    faults.push_back({"no frames", tavStatusNullPointer, [](arguments<P...>& a) { a.template spoil<Frames>(); }});
-    add_below_one<Count>(faults);
-    add_below_one<Count + 1>(faults);
-    faults.push_back({"no lines", tavStatusNullPointer, [](arguments<P...>& a) { a.template spoil<Lines>(); }});
-    each([&] { expect_faults(f, faults); });
-  };
-  run(function);
-};
+template <size_t Frames, size_t Lines, size_t Count> void frames_sizes_lines(const tested& f) {
+  faults(f).null(Frames).below_one(Count).below_one(Count + 1).null(Lines).expect();
+}
 
 }  // namespace
 
