@@ -97,7 +97,7 @@ template <int Sections> void two_channels(const char* name) {
           for (auto s : states) tavsIIRSetDlyLine_32f(s, nullptr);
           tavsIIR_32f_P(src, dst, n / 2, 2, states);
         }},
-       {"channel by channel",
+       {"tavSP by channel",
         [](auto& x, int n) {
           by_halves(x, n, [](const Tav32f* src, Tav32f* dst, int len) {
             const auto s = state<&tavsIIRInitAlloc_BiQuad_32f, Sections>();
@@ -118,7 +118,7 @@ template <int Sections> void two_channels(const char* name) {
 
 template <int Sections> void singles(const char* name, double goal) {
   near_contest<Tav32f, Tav32f>(
-      {.name = name, .bytes = 8, .in_cache = goal}, 1e-5,
+      {.name = name, .bytes = 8, .in_cache = goal, .curve = goal > 0}, 1e-5,
       {{ours,
         [](auto& x, int n) {
           const auto s = state<&tavsIIRInitAlloc_BiQuad_32f, Sections>();

@@ -51,7 +51,7 @@ BENCH_FAMILY(conj) {
 }
 
 BENCH_FAMILY(magnitude) {
-  contest<Tav32fc>({.name = "Magnitude_32fc", .bytes = 12},
+  contest<Tav32fc>({.name = "Magnitude_32fc", .bytes = 12, .curve = true},
                    {{ours, [](const pairs& x, int n) { tavsMagnitude_32fc(x.a, parts(x.out), n); }},
                     {loop, [](const pairs& x, int n) { plain::magnitude(x.a, parts(x.out), n); }},
                     volk<Tav32fc>("volk_32fc_magnitude_32f", [](const pairs& x, int n) {

@@ -17,7 +17,9 @@ const contender<Tav32f> to_16s{ours,
 }  // namespace
 
 BENCH_FAMILY(convert_float_to_integer) {
-  const auto row_of = [](const char* name, double goal) { return row{.name = name, .bytes = 6, .in_cache = goal}; };
+  const auto row_of = [](const char* name, double goal) {
+    return row{.name = name, .bytes = 6, .in_cache = goal, .curve = goal > 0};
+  };
   contest<Tav32f>(row_of("Convert_32f16s_Sfs, to nearest", 1.4),
                   {to_16s<1, 0>,
                    {loop, [](auto& x, int n) { plain::to_nearest(x.a, 1, as<Tav16s>(x.out), n); }},
@@ -43,7 +45,7 @@ BENCH_FAMILY(convert_float_to_integer) {
 }
 
 BENCH_FAMILY(convert_integer) {
-  contest<Tav32f>({.name = "Convert_16s32f", .bytes = 6},
+  contest<Tav32f>({.name = "Convert_16s32f", .bytes = 6, .curve = true},
                   {{ours, [](auto& x, int n) { tavsConvert_16s32f(as<Tav16s>(x.a), x.out, n); }},
                    {loop, [](auto& x, int n) { plain::convert(as<const Tav16s>(x.a), x.out, n); }},
                    volk<Tav32f>("volk_16i_s32f_convert_32f", [](auto& x, int n) {

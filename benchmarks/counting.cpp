@@ -33,10 +33,12 @@ void update_plainly_by(Tav16s alpha, const arrays<Tav16s>& x, int n) {
   *result<Tav32s>(x) = plain::update(x.a, n, 0, 1, alpha);
 }
 
+constexpr char crossings[] = "Crossings of zero";
+
 }  // namespace
 
 BENCH_FAMILY(min_max_every) {
-  contest<Tav32f>({.name = "MaxEvery_32f", .bytes = 12, .in_cache = 1.05, .in_memory = 1.25},
+  contest<Tav32f>({.name = "MaxEvery_32f", .bytes = 12, .in_cache = 1.05, .in_memory = 1.25, .curve = true},
                   {{ours, [](auto& x, int n) { tavsMaxEvery_32f(x.a, x.b, x.out, unsigned(n)); }},
                    {loop, [](auto& x, int n) { plain::every_larger(x.a, x.b, x.out, n); }},
                    volk<Tav32f>("volk_32f_x2_max_32f",
@@ -63,15 +65,15 @@ BENCH_FAMILY(counting) {
                       benchmark::DoNotOptimize(has_nan);
                     }}},
                   noise<Tav32f>);
-  contest<Tav32s>({.name = "CountInRange_32s", .bytes = 4, .in_cache = 1.5, .in_memory = 1},
+  contest<Tav32s>({.name = "CountInRange_32s", .bytes = 4, .in_cache = 1.5, .in_memory = 1, .curve = true},
                   {{ours, [](auto& x, int n) { tavsCountInRange_32s(x.a, n, result<int>(x), -50, 50); }},
                    {loop, [](auto& x, int n) { *result<int>(x) = plain::count_between(x.a, n, -50, 50); }}},
                   noise<Tav32s>);
-  contest<Tav32f>({.name = "ZeroCrossing_32f", .bytes = 4, .in_cache = 1, .in_memory = 1},
+  contest<Tav32f>({.name = "ZeroCrossing_32f", .bytes = 4, .in_cache = 1, .in_memory = 1, .account = crossings},
                   {{ours, [](auto& x, int n) { tavsZeroCrossing_32f(x.a, unsigned(n), x.out, 0); }},
                    {loop, [](auto& x, int n) { *x.out = plain::zero_crossings(x.a, n); }}},
                   noise<Tav32f>);
-  contest<Tav16s>({.name = "ZeroCrossing_16s32f", .bytes = 2, .in_cache = 1, .in_memory = 1},
+  contest<Tav16s>({.name = "ZeroCrossing_16s32f", .bytes = 2, .in_cache = 1, .in_memory = 1, .account = crossings},
                   {{ours, [](auto& x, int n) { tavsZeroCrossing_16s32f(x.a, unsigned(n), result<Tav32f>(x), 0); }},
                    {loop, [](auto& x, int n) { *result<Tav32f>(x) = plain::zero_crossings(x.a, n); }}},
                   noise<Tav16s>);

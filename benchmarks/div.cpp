@@ -16,11 +16,11 @@ BENCH_FAMILY(div) {
   scaled<Tav8u, tavsDiv_8u_Sfs>("Div_8u_Sfs, factor 0");
   scaled<Tav16s, tavsDiv_16s_Sfs>("Div_16s_Sfs, factor 0");
   scaled<Tav16u, tavsDiv_16u_Sfs>("Div_16u_Sfs, factor 0");
-  contest<Tav32f>({.name = "Div_32f", .bytes = 12}, {{ours, [](auto& x, int n) { tavsDiv_32f(x.a, x.b, x.out, n); }},
-                                                     {loop, [](auto& x, int n) { plain::divide(x.a, x.b, x.out, n); }},
-                                                     volk<Tav32f>("volk_32f_x2_divide_32f", [](auto& x, int n) {
-                                                       volk_32f_x2_divide_32f_a(x.out, x.b, x.a, unsigned(n));
-                                                     })});
+  contest<Tav32f>({.name = "Div_32f", .bytes = 12, .curve = true},
+                  {{ours, [](auto& x, int n) { tavsDiv_32f(x.a, x.b, x.out, n); }},
+                   {loop, [](auto& x, int n) { plain::divide(x.a, x.b, x.out, n); }},
+                   volk<Tav32f>("volk_32f_x2_divide_32f",
+                                [](auto& x, int n) { volk_32f_x2_divide_32f_a(x.out, x.b, x.a, unsigned(n)); })});
 }
 
 BENCH_FAMILY(div_c) {

@@ -28,7 +28,7 @@ template <class T, auto Ours> void scaled_dot_contest(const row& r) {
 }
 
 void singles_beside_volk() {
-  summary_contest<Tav32f, Tav32f>({.name = "DotProd_32f", .bytes = 8}, singles,
+  summary_contest<Tav32f, Tav32f>({.name = "DotProd_32f", .bytes = 8, .curve = true}, singles,
                                   {{ours, [](auto& x, int n) { tavsDotProd_32f(x.a, x.b, n, x.out); }},
                                    {loop, [](auto& x, int n) { plain::dot(x.a, x.b, n, x.out); }},
                                    volk<Tav32f>("volk_32f_x2_dot_prod_32f", [](auto& x, int n) {

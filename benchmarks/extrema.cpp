@@ -43,7 +43,7 @@ void volk_index(const arrays<Tav32f>& x, int n) {
 // In cache the loops of integers are vectors, too: of 16 bits and less they take a cycle for each, and no kernel can
 // load more than two. extrema_kernels.cpp has others.
 BENCH_FAMILY(extrema) {
-  summary_contest<Tav32f, Tav32f>({.name = "Max_32f", .bytes = 4, .in_cache = 3, .in_memory = 1}, 0,
+  summary_contest<Tav32f, Tav32f>({.name = "Max_32f", .bytes = 4, .in_cache = 3, .in_memory = 1, .curve = true}, 0,
                                   {{ours, [](auto& x, int n) { tavsMax_32f(x.a, n, x.out); }},
                                    {loop, [](auto& x, int n) { plain::largest(x.a, n, x.out); }}},
                                   noise);

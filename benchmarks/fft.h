@@ -42,7 +42,8 @@ void transforms(const char* name, const std::vector<int>& orders = few_orders, d
   for (int order : orders) {
     const std::string place = "2^" + std::to_string(order);
     const size_t      bytes = Duel::point_bytes;
-    const row         r{.name = name, .bytes = 2.0 * bytes, .in_cache = goal(order), .in_memory = goal(order)};
+    const bool        curve = &orders == &all_orders;
+    const row r{.name = name, .bytes = 2.0 * bytes, .in_cache = goal(order), .in_memory = goal(order), .curve = curve};
     if (!wanted(r)) return;
     Duel d(order);
     require_same(r, "FFTW", d.same());
@@ -53,7 +54,7 @@ void transforms(const char* name, const std::vector<int>& orders = few_orders, d
 
 // Set-up and release against so many transforms of that order, which must not take less.
 template <class Duel> void set_up(const char* name, int order = 16, int count = 20) {
-  const std::string place = "2^" + std::to_string(order), transforms = std::to_string(count) + " transforms";
+  const std::string place = "2^" + std::to_string(order), transforms = "tavSP " + std::to_string(count) + " times";
   const row         r{.name = name, .bytes = Duel::point_bytes, .in_cache = 1, .in_memory = 1};
   if (!wanted(r)) return;
   Duel       d(order);

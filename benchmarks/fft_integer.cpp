@@ -107,7 +107,7 @@ template <class P> class integers {
 template <class P> void transforms(const char* name, const std::vector<int>& orders) {
   for (int order : orders) {
     const std::string place = "2^" + std::to_string(order);
-    const row         r{.name = name, .bytes = 2.0 * P::parts * sizeof(typename P::part)};
+    const row         r{.name = name, .bytes = 2.0 * P::parts * sizeof(typename P::part), .curve = true};
     if (!wanted(r)) return;
     integers<P> x(order);
     x.compare(r);

@@ -85,13 +85,19 @@ template <class T> class fftw_filter {
   std::vector<float> spectrum_;
 };
 
-double goal_of(int taps) { return taps <= 8 ? 2.0 : taps < 64 ? 1.0 : 1.1; }
+const char* account_of(int taps) { return taps == 8 ? "FIR, 8 taps" : ""; }
+double      goal_of(int taps) { return taps <= 8 ? 2.0 : taps < 64 ? 1.0 : 1.1; }
 
 constexpr double rounding = 1e-6;
 
 void singles(int taps) {
   const std::string name = named("FIR_32f", taps);
-  const row         r{.name = name.c_str(), .bytes = 8, .in_cache = goal_of(taps), .in_memory = 0};
+  const row         r{.name     = name.c_str(),
+                      .bytes    = 8,
+                      .in_cache = goal_of(taps),
+                      .curve    = true,
+                      .taps     = taps,
+                      .account  = account_of(taps)};
   if (!wanted(r)) return;
   problem<float, float> p(taps);
   FIRState_32f*         state = nullptr;
@@ -122,7 +128,7 @@ void singles(int taps) {
 
 void pairs_of_singles(int taps) {
   const std::string name = named("FIR_32fc", taps);
-  const row         r{.name = name.c_str(), .bytes = 16, .in_cache = goal_of(taps), .in_memory = 0};
+  const row         r{.name = name.c_str(), .bytes = 16, .in_cache = goal_of(taps)};
   if (!wanted(r)) return;
   problem<Tav32fc, Tav32fc> p(taps);
   FIRState_32fc*            state = nullptr;
@@ -146,7 +152,7 @@ void pairs_of_singles(int taps) {
 
 void integers(int taps) {
   const std::string name = named("FIR32f_16s_Sfs", taps);
-  const row         r{.name = name.c_str(), .bytes = 4, .in_cache = goal_of(taps), .in_memory = 0};
+  const row         r{.name = name.c_str(), .bytes = 4, .in_cache = goal_of(taps)};
   if (!wanted(r)) return;
   problem<int16_t, float> p(taps);
   FIRState32f_16s*        state = nullptr;

@@ -63,6 +63,8 @@ template <class P, class T> class match {
   void hold() {
     row without_goal      = row_;  // which speaks of long calls
     without_goal.in_cache = 0;
+    without_goal.curve    = false;
+    without_goal.account  = "Short calls of filters";
     measure_point(without_goal, {period * sizeof(T), "64 elements"}, period, short_);
     measure_point(row_, {most_samples * sizeof(T), "4096 samples"}, most_samples, long_);
   }

@@ -10,7 +10,7 @@ constexpr double same  = 0;  // as tolerance
 
 void words(int taps) {
   const std::string name = named("FIR_16s", taps);
-  const row         r{.name = name.c_str(), .bytes = 4, .in_cache = 1.5};
+  const row         r{.name = name.c_str(), .bytes = 4, .in_cache = 1.5, .curve = true, .taps = taps};
   if (!wanted(r)) return;
   const problem<Tav16s, Tav16s> p(taps);
   FIRState_16s*                 state = nullptr;
@@ -42,7 +42,8 @@ void pairs(int taps) {
 
 void direct(int taps) {
   const std::string name = named("FIR_Direct_32f", taps);
-  const row         r{.name = name.c_str(), .bytes = 8, .in_cache = 1.5};
+  const row         r{
+              .name = name.c_str(), .bytes = 8, .in_cache = 1.5, .curve = true, .taps = taps, .account = "FIR_Direct_32f"};
   if (!wanted(r)) return;
   const problem<float, float> p(taps);
   std::vector<float>          ring(p.src - taps, p.src);  // the oldest first, and once more

@@ -17,21 +17,28 @@
 #include <regex>
 
 #include "confine.h"
+#include "families.h"
 
 namespace bench {
 namespace {
 
 constexpr size_t small_elements = 64, l1_bytes = 8 << 10, l2_bytes = 128 << 10, memory_bytes = 64 << 20;
-constexpr size_t curve_from = 16;
-constexpr size_t skew       = 1280;  // between the arrays modulo a page: a load must not look like a recent store's
+constexpr size_t curve_from = 64, curve_sparse_from = 1 << 20;
+constexpr char   small_place[] = "64 elements";
+constexpr size_t skew          = 1280;  // between the arrays modulo a page: a load must not look like a recent store's
 
 bool       quick = false, alone = false;
 std::regex filter(".");
 
-std::vector<void (*)()>& families() {
-  static std::vector<void (*)()> all;
+struct registered {
+  const char* name;
+  void (*hold)();
+};
+std::vector<registered>& all_contests() {
+  static std::vector<registered> all;
   return all;
 }
+const family_facts* held = nullptr;  // the family whose contests are being held
 
 [[noreturn]] void fail(const std::string& why) {
   std::cerr << "bench: " << why << "\n";
@@ -58,7 +65,20 @@ class reporter : public benchmark::JSONReporter {
 
 }  // namespace
 
-family::family(void (*contests)()) { families().push_back(contests); }
+family::family(const char* name, void (*contests)()) { all_contests().push_back({name, contests}); }
+
+static void require_listed(const char* name) {
+  for (const family_facts* f = families; f->contests != nullptr; ++f)
+    if (strcmp(name, f->contests) == 0) return;
+  fail(std::string("families.cpp does not list ") + name);
+}
+
+static void hold_all() {
+  for (const registered& r : all_contests()) require_listed(r.name);
+  for (held = families; held->contests != nullptr; ++held)
+    for (const registered& r : all_contests())
+      if (strcmp(r.name, held->contests) == 0) r.hold();
+}
 
 void* pool(int array) {
   constexpr size_t   size   = memory_bytes + (2 << 20);
@@ -85,26 +105,39 @@ bool wanted(const row& r) { return std::regex_search(r.name, filter); }
 
 std::vector<point> points_of(const row& r, size_t element_bytes) {
   std::vector<point> points{
-      {small_elements * element_bytes, "64 elements"}, {l1_bytes, "L1"}, {l2_bytes, "L2"}, {memory_bytes, "memory"}};
+      {small_elements * element_bytes, small_place}, {l1_bytes, "L1"}, {l2_bytes, "L2"}, {memory_bytes, "memory"}};
   if (!r.curve) return points;
-  for (size_t bytes = curve_from; bytes <= memory_bytes; bytes *= 2)
+  for (size_t bytes = curve_from; bytes < memory_bytes; bytes *= bytes < curve_sparse_from ? 2 : 4)
     if (std::none_of(points.begin(), points.end(), [&](const point& p) { return p.bytes == bytes; }))
       points.push_back({bytes, ""});
   return points;
 }
 
+// Where a point belongs: its place, family, account and plot.
+static std::string label_of(const row& r, const point& p, bool memory) {
+  const std::string place   = p.place, name(r.name);
+  const std::string account = *r.account != 0        ? r.account
+                              : place == small_place ? short_arrays
+                              : memory               ? held->in_memory
+                                                     : held->in_cache;
+  const std::string plot    = !r.curve ? "" : r.taps == 0 ? name : name.substr(0, name.find(',')) + ", " + place;
+  return place + '|' + held->title + '|' + account + '|' + plot;
+}
+
 void measure_point(const row& r, const point& p, int n, const std::vector<entry>& entries) {
-  const bool   table = *p.place != 0, memory = p.bytes == memory_bytes;
-  const double goal        = !table ? 0 : memory ? r.in_memory : r.in_cache;
-  const int    repetitions = quick || alone ? 3 : 5;
+  const bool        table = *p.place != 0, memory = p.bytes == memory_bytes;
+  const double      goal        = !table ? 0 : memory ? r.in_memory : r.in_cache;
+  const int         repetitions = quick || alone || !table ? 3 : 5;
+  const std::string label       = label_of(r, p, memory);
   for (const entry& e : entries) {
     if (alone && e.name != ours) continue;
     const auto measure = [&, goal](benchmark::State& state) {
       e.measure(state);
-      state.SetLabel(p.place);
+      state.SetLabel(label);
       state.counters["elements"] = n;
-      state.counters["bytes"]    = n * r.bytes;
-      state.counters["goal"]     = *r.against == 0 || e.name == r.against ? goal : 0;
+      if (r.taps != 0) state.counters["taps"] = r.taps;
+      state.counters["bytes"] = n * r.bytes;
+      state.counters["goal"]  = *r.against == 0 || e.name == r.against ? goal : 0;
     };
     const std::string name = std::string(r.name) + "/" + std::to_string(p.bytes) + "/" + e.name;
     benchmark::RegisterBenchmark(name.c_str(), measure)->Repetitions(repetitions)->MinTime(quick ? 0.003 : 0.005);
@@ -140,7 +173,7 @@ static int run(int argc, char** argv) {
 
   std::ofstream out(argv[2]);
   results.SetOutputStream(&out);
-  for (const auto contests : families()) contests();
+  hold_all();
   results.finish();
   out.close();
   if (!out) fail(std::string("cannot write ") + argv[2]);

@@ -6,8 +6,9 @@
 //                      {"loop", [](auto& x, int n) { plain::add(x.a, x.b, x.out, n); }}});
 //   }
 //
-// A contest has several contenders do the same work in turns, on arrays that fit the first-level cache, the
-// second-level one, or neither. It first makes sure that the work is the same.
+// The report takes the family's title and place from families.cpp. A contest has several contenders do the same work in
+// turns, on arrays that fit the first-level cache, the second-level one, or neither. It first makes sure that the work
+// is the same.
 #pragma once
 #include <benchmark/benchmark.h>
 #include <tavs.h>
@@ -37,7 +38,9 @@ struct row {
   double      in_cache  = 0;      // goals: the time of the best peer divided by ours; 0: none
   double      in_memory = 0;      // the same where the arrays are far larger than the caches
   const char* against   = "";     // the one peer that the goals speak of; "": the best
-  bool        curve     = false;  // times further sizes, for a plot
+  bool        curve     = false;  // is plotted, and so times further sizes
+  int         taps      = 0;      // of a filter, whose plot goes by them
+  const char* account   = "";     // heading in limits.md for missed goals; "": that of the place or the family
 };
 
 // A contender of VOLK, whose kernel must be one that volk/volk_config confines to SSSE3.
@@ -144,12 +147,12 @@ void summary_contest(const row& r, double tolerance, const std::vector<contender
 }
 
 struct family {
-  explicit family(void (*contests)());
+  family(const char* name, void (*contests)());
 };
 
 }  // namespace bench
 
-#define BENCH_FAMILY(name)                      \
-  static void          name();                  \
-  static bench::family family_of_##name{&name}; \
+#define BENCH_FAMILY(name)                             \
+  static void          name();                         \
+  static bench::family family_of_##name{#name, &name}; \
   static void          name()

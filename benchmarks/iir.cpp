@@ -79,7 +79,7 @@ BENCH_FAMILY(iir) {
                                {{ours, [](auto& x, int n) { run_ours(singles<2>(), x.a, x.out, n); }},
                                 {loop, [](auto& x, int n) { run_plain_second(singles<2>(), x.a, x.out, n); }},
                                 {liquid, [](auto& x, int n) { run_liquid<2>(x.a, x.out, n); }}});
-  near_contest<Tav32f, Tav32f>({.name = "IIR_32f, order 6", .bytes = 8}, 1e-4,
+  near_contest<Tav32f, Tav32f>({.name = "IIR_32f, order 6", .bytes = 8, .curve = true}, 1e-4,
                                {{ours, [](auto& x, int n) { run_ours(singles<6>(), x.a, x.out, n); }},
                                 {loop, [](auto& x, int n) { run_plain(singles<6>(), x.a, x.out, n); }},
                                 {liquid, [](auto& x, int n) { run_liquid<6>(x.a, x.out, n); }}});

@@ -12,12 +12,14 @@ BENCH_FAMILY(logic) {
   };
   contest<Tav8u>(row_of("And_8u", 3), {{ours, [](auto& x, int n) { tavsAnd_8u(x.a, x.b, x.out, n); }},
                                        {loop, [](auto& x, int n) { plain::bitwise_and(x.a, x.b, x.out, n); }}});
-  contest<Tav32u>(row_of("And_32u", 12), {{ours, [](auto& x, int n) { tavsAnd_32u(x.a, x.b, x.out, n); }},
-                                          {loop, [](auto& x, int n) { plain::bitwise_and(x.a, x.b, x.out, n); }},
-                                          volk<Tav32u>("volk_32i_x2_and_32i", [](auto& x, int n) {
-                                            const auto words = [](Tav32u* p) { return reinterpret_cast<Tav32s*>(p); };
-                                            volk_32i_x2_and_32i_a(words(x.out), words(x.a), words(x.b), unsigned(n));
-                                          })});
+  row masks   = row_of("And_32u", 12);
+  masks.curve = true;
+  contest<Tav32u>(masks, {{ours, [](auto& x, int n) { tavsAnd_32u(x.a, x.b, x.out, n); }},
+                          {loop, [](auto& x, int n) { plain::bitwise_and(x.a, x.b, x.out, n); }},
+                          volk<Tav32u>("volk_32i_x2_and_32i", [](auto& x, int n) {
+                            const auto words = [](Tav32u* p) { return reinterpret_cast<Tav32s*>(p); };
+                            volk_32i_x2_and_32i_a(words(x.out), words(x.a), words(x.b), unsigned(n));
+                          })});
   contest<Tav16u>(row_of("XorC_16u", 4),
                   {{ours, [](auto& x, int n) { tavsXorC_16u(x.a, 0x1234, x.out, n); }},
                    {loop, [](auto& x, int n) { plain::bitwise_xor<Tav16u>(x.a, 0x1234, x.out, n); }}});

@@ -49,9 +49,11 @@ BENCH_FAMILY(fill) {
   contest<Tav8u>(zeros, {{ours, [](auto& x, int n) { tavsZero_8u(x.out, n); }},
                          {"memset", [](auto& x, int n) { memset(x.out, 0, size_t(n)); }},
                          {loop, [](auto& x, int n) { plain::fill<Tav8u>(0, x.out, n); }}});
-  contest<Tav8u>(row_of("Set_8u", 1, "memset"), {{ours, [](auto& x, int n) { tavsSet_8u(7, x.out, n); }},
-                                                 {"memset", [](auto& x, int n) { memset(x.out, 7, size_t(n)); }},
-                                                 {loop, [](auto& x, int n) { plain::fill<Tav8u>(7, x.out, n); }}});
+  row values   = row_of("Set_8u", 1, "memset");
+  values.curve = true;
+  contest<Tav8u>(values, {{ours, [](auto& x, int n) { tavsSet_8u(7, x.out, n); }},
+                          {"memset", [](auto& x, int n) { memset(x.out, 7, size_t(n)); }},
+                          {loop, [](auto& x, int n) { plain::fill<Tav8u>(7, x.out, n); }}});
   contest<Tav16s>(row_of("Set_16s", 2, ""), {{ours, [](auto& x, int n) { tavsSet_16s(7, x.out, n); }},
                                              {loop, [](auto& x, int n) { plain::fill<Tav16s>(7, x.out, n); }}});
   contest<Tav32f>(row_of("Set_32f", 4, ""), {{ours, [](auto& x, int n) { tavsSet_32f(7, x.out, n); }},

@@ -24,7 +24,8 @@ BENCH_FAMILY(norms) {
   summary_contest<Tav32f, Tav32f>({.name = "Norm_L1_32f", .bytes = 4, .in_cache = 3}, 1e-5,
                                   {{ours, [](singles x, int n) { tavsNorm_L1_32f(x.a, n, x.out); }},
                                    {loop, [](singles x, int n) { *x.out = plain::norm_l1(x.a, n); }}});
-  summary_contest<Tav32f, Tav32f>({.name = "Norm_L2_32f", .bytes = 4, .in_cache = 3, .against = loop}, 1e-5,
+  summary_contest<Tav32f, Tav32f>({.name = "Norm_L2_32f", .bytes = 4, .in_cache = 3, .against = loop, .curve = true},
+                                  1e-5,
                                   {{ours, [](singles x, int n) { tavsNorm_L2_32f(x.a, n, x.out); }},
                                    {loop, [](singles x, int n) { *x.out = plain::norm_l2(x.a, n); }},
                                    volk<Tav32f>("volk_32f_x2_dot_prod_32f", [](singles x, int n) {

@@ -69,7 +69,7 @@ BENCH_FAMILY(phase) {
                                 {fast, [](auto& x, int n) { sleef<Sleef_atan2f4_u35sse2>(x.a, x.b, x.out, n); }}},
                                around);
   near_contest<Tav32f, Tav32fc>(
-      {.name = "Phase_32fc", .bytes = 12}, 1e-6,
+      {.name = "Phase_32fc", .bytes = 12, .curve = true}, 1e-6,
       {{ours, [](auto& x, int n) { tavsPhase_32fc(x.a, angles<Tav32f>(x), n); }},
        {loop, [](auto& x, int n) { plain::phase(x.a, angles<Tav32f>(x), n); }},
        {precise, [](auto& x, int n) { sleef<Sleef_atan2f4_u10sse2>(x.a, angles<Tav32f>(x), n); }},

@@ -65,7 +65,7 @@ void turning_words(words x, int n) {
 
 BENCH_FAMILY(polar) {
   near_contest<float, Tav32fc>(
-      {.name = "PolarToCart_32fc", .bytes = 16}, 1e-6,
+      {.name = "PolarToCart_32fc", .bytes = 16, .curve = true}, 1e-6,
       {{ours, [](singles x, int n) { tavsPolarToCart_32fc(magn(x), phase(x), x.out, n); }},
        {loop, [](singles x, int n) { plain::polar_to_cart(magn(x), phase(x), x.out, n); }},
        {precise, [](singles x, int n) { sleef<Sleef_sincosf4_u10sse2>(magn(x), phase(x), x.out, n); }},

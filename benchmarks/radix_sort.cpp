@@ -65,7 +65,8 @@ template <class T> void standard(T* data, T*, int n) { std::sort(data, data + n)
 void                    counting(Tav8u* data, Tav8u*, int n) { plain::counting_sort(data, n); }
 
 template <class T, auto Ours, auto Plain> void sorts(const char* name, double goal) {
-  const row r{.name = name, .bytes = 2 * sizeof(T), .in_cache = goal, .in_memory = goal, .against = radix};
+  const row r{
+      .name = name, .bytes = 2 * sizeof(T), .in_cache = goal, .in_memory = goal, .against = radix, .curve = true};
   if (!wanted(r)) return;
   at_all_counts<T>(r, unsorted<T>(),
                    {{ours, with_copy<T, Ours>}, {radix, with_copy<T, Plain>}, {generic, with_copy<T, &standard<T>>}},
@@ -85,7 +86,12 @@ BENCH_FAMILY(radix_sort) {
 
 // The keys stay, so there is nothing to restore.
 BENCH_FAMILY(radix_index) {
-  const row r{.name = "SortRadixIndexAscend_32f", .bytes = 12, .in_cache = 1, .in_memory = 1.1, .against = radix};
+  const row r{.name      = "SortRadixIndexAscend_32f",
+              .bytes     = 12,
+              .in_cache  = 1,
+              .in_memory = 1.1,
+              .against   = radix,
+              .curve     = true};
   if (!wanted(r)) return;
   at_all_counts<Tav32f>(r, unsorted<Tav32f>(),
                         {{ours,

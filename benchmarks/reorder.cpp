@@ -7,9 +7,10 @@
 namespace bench {
 
 // One contest of ours and the plain loop; `bytes` is what one of the two arrays takes per element.
-template <class T, auto Ours, auto Loop> static void apart(const char* name) {
-  contest<T>({.name = name, .bytes = 2.0 * sizeof(T)}, {{ours, [](auto& x, int n) { Ours(x.a, x.out, n); }},
-                                                        {loop, [](auto& x, int n) { Loop(x.a, x.out, n); }}});
+template <class T, auto Ours, auto Loop> static void apart(const char* name, bool curve = false) {
+  contest<T>(
+      {.name = name, .bytes = 2.0 * sizeof(T), .curve = curve},
+      {{ours, [](auto& x, int n) { Ours(x.a, x.out, n); }}, {loop, [](auto& x, int n) { Loop(x.a, x.out, n); }}});
 }
 
 template <class T, auto Ours, auto Loop> static void in_place(const char* name) {
@@ -27,7 +28,7 @@ template <class T, auto Ours, auto Loop, auto Volk> static void in_place(const c
 BENCH_FAMILY(flip) {
   apart<Tav8u, tavsFlip_8u, plain::flip<Tav8u>>("Flip_8u");
   apart<Tav16u, tavsFlip_16u, plain::flip<Tav16u>>("Flip_16u");
-  apart<Tav32f, tavsFlip_32f, plain::flip<Tav32f>>("Flip_32f");
+  apart<Tav32f, tavsFlip_32f, plain::flip<Tav32f>>("Flip_32f", true);
   apart<Tav64f, tavsFlip_64f, plain::flip<Tav64f>>("Flip_64f");
   in_place<Tav8u, tavsFlip_8u_I, plain::flip_in_place<Tav8u>>("Flip_8u_I");
   in_place<Tav32f, tavsFlip_32f_I, plain::flip_in_place<Tav32f>>("Flip_32f_I");
@@ -35,7 +36,7 @@ BENCH_FAMILY(flip) {
 
 BENCH_FAMILY(swap_bytes) {
   apart<Tav16u, tavsSwapBytes_16u, plain::swap_bytes<Tav16u>>("SwapBytes_16u");
-  apart<Tav32u, tavsSwapBytes_32u, plain::swap_bytes<Tav32u>>("SwapBytes_32u");
+  apart<Tav32u, tavsSwapBytes_32u, plain::swap_bytes<Tav32u>>("SwapBytes_32u", true);
   apart<Tav64u, tavsSwapBytes_64u, plain::swap_bytes<Tav64u>>("SwapBytes_64u");
   in_place<Tav16u, tavsSwapBytes_16u_I, plain::swap_bytes_in_place<Tav16u>, &volk_16u_byteswap_a>("SwapBytes_16u_I",
                                                                                                   "volk_16u_byteswap");

@@ -6,7 +6,7 @@ namespace bench {
 
 // A function of two sources at one factor, beside the plain loop for the same.
 template <class T, auto Ours, auto Loop, int S> static void scaled(const char* name, double goal = 0) {
-  contest<T>({.name = name, .bytes = 3.0 * sizeof(T), .in_cache = goal},
+  contest<T>({.name = name, .bytes = 3.0 * sizeof(T), .in_cache = goal, .curve = goal > 0 && S < 2},
              {{ours, [](auto& x, int n) { Ours(x.a, x.b, x.out, n, S); }},
               {loop, [](auto& x, int n) { Loop(x.a, x.b, x.out, n, S); }}});
 }

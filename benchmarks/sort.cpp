@@ -13,6 +13,8 @@
 namespace bench {
 namespace {
 
+constexpr char pdqsort[] = "pdqsort", std_sort[] = "std::sort";
+
 template <class T> using sort_function = void (*)(T*, int);
 
 template <class T> struct sorts {
@@ -48,7 +50,12 @@ void sort_contest(const char* name, const char* against, double goal_at_100, dou
   T *const keys = static_cast<T*>(pool(0)), *const work = static_cast<T*>(pool(1));
   for (int n : {100, 1000, 10000, 100000, 1000000}) {
     const double wants = n == 100 ? goal_at_100 : goal;
-    const row    r{.name = name, .bytes = 2 * sizeof(T), .in_cache = wants, .in_memory = wants, .against = against};
+    const row    r{.name      = name,
+                   .bytes     = 2 * sizeof(T),
+                   .in_cache  = wants,
+                   .in_memory = wants,
+                   .against   = against,
+                   .curve     = against == pdqsort};
     if (!wanted(r)) return;
     for (int i = 0; i < std::max(n, keys_in_all); ++i) keys[i] = T(key(i % n, n));
     const auto expected = sorted_by<T>(sorts<T>::standard, keys, n);
@@ -59,8 +66,6 @@ void sort_contest(const char* name, const char* against, double goal_at_100, dou
                    sort_entry("pdqsort", sorts<T>::pdq, keys, work, n)});
   }
 }
-
-constexpr char pdqsort[] = "pdqsort", std_sort[] = "std::sort";
 
 template <class T> void random_keys(const char* name, sort_function<T> mine, double goal_at_100, double goal) {
   std::mt19937 engine(1);

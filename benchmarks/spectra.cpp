@@ -17,7 +17,7 @@ const int16_t* slots(const Tav16sc* p) { return reinterpret_cast<const int16_t*>
 }  // namespace
 
 BENCH_FAMILY(packed_products) {
-  contest<Tav32f>({.name = "MulPack_32f", .bytes = 12},
+  contest<Tav32f>({.name = "MulPack_32f", .bytes = 12, .curve = true},
                   {{ours, [](const singles& x, int n) { tavsMulPack_32f(x.a, x.b, x.out, n); }},
                    {loop, [](const singles& x, int n) { plain::mul_pack(x.a, x.b, x.out, n); }}});
   contest<Tav32f>({.name = "MulPerm_32f", .bytes = 12},

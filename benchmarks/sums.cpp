@@ -26,7 +26,7 @@ BENCH_FAMILY(sums) {
   constexpr double close     = 1e-5;
   const auto       plain_sum = contender<Tav32f>{loop, [](auto& x, int n) { plain::sum(x.a, x.out, n); }};
   summary_contest<Tav32f, Tav32f>(
-      {.name = "Sum_32f, fast", .bytes = 4, .in_cache = 3, .against = loop}, close,
+      {.name = "Sum_32f, fast", .bytes = 4, .in_cache = 3, .against = loop, .curve = true}, close,
       {{ours, [](auto& x, int n) { tavsSum_32f(x.a, n, x.out, fast); }}, plain_sum, volk_sum()});
   summary_contest<Tav32f, Tav32f>(
       {.name = "Sum_32f, accurate", .bytes = 4}, close,
@@ -52,7 +52,7 @@ BENCH_FAMILY(deviations) {
   constexpr double close         = 1e-3;
   const auto       plain_std_dev = contender<Tav32f>{loop, [](auto& x, int n) { plain::std_dev(x.a, x.out, n); }};
   summary_contest<Tav32f, Tav32f>(
-      {.name = "StdDev_32f, fast", .bytes = 4, .in_cache = 3, .against = loop}, close,
+      {.name = "StdDev_32f, fast", .bytes = 4, .in_cache = 3, .against = loop, .account = "Deviations"}, close,
       {{ours, [](auto& x, int n) { tavsStdDev_32f(x.a, n, x.out, fast); }}, plain_std_dev, volk_std_dev()});
   summary_contest<Tav32f, Tav32f>(
       {.name = "StdDev_32f, accurate", .bytes = 4}, close,

@@ -5,10 +5,10 @@
 namespace bench {
 
 BENCH_FAMILY(threshold) {
-  contest<Tav16s>({.name = "Threshold_LT_16s", .bytes = 4, .in_memory = 1},
+  contest<Tav16s>({.name = "Threshold_LT_16s", .bytes = 4, .in_memory = 1, .curve = true},
                   {{ours, [](auto& x, int n) { tavsThreshold_LT_16s(x.a, x.out, n, 50); }},
                    {loop, [](auto& x, int n) { plain::raise<Tav16s>(x.a, 50, x.out, n); }}});
-  contest<Tav32f>({.name = "Threshold_GT_32f", .bytes = 8, .in_memory = 1},
+  contest<Tav32f>({.name = "Threshold_GT_32f", .bytes = 8, .in_memory = 1, .curve = true},
                   {{ours, [](auto& x, int n) { tavsThreshold_GT_32f(x.a, x.out, n, 60); }},
                    {loop, [](auto& x, int n) { plain::lower<Tav32f>(x.a, 60, x.out, n); }}});
   contest<Tav32f>({.name = "Threshold_LTValGTVal_32f", .bytes = 8, .in_memory = 1},
