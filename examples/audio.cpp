@@ -3,12 +3,13 @@
 #include <sndfile.h>
 
 #include <algorithm>
-#include <climits>
 #include <cstdio>
 #include <cstring>
 #include <memory>
 
 namespace {
+
+constexpr sf_count_t most_frames = 1 << 26;  // 23 minutes at 48 kHz; the spectra of more do not fit into 32 bits
 
 using File = std::unique_ptr<SNDFILE, int (*)(SNDFILE*)>;
 
@@ -23,7 +24,10 @@ File open_file(const std::string& path, int mode, SF_INFO& info) {
 Sound read_sound(const std::string& path) {
   SF_INFO    info{};
   const File file = open_file(path, SFM_READ, info);
-  if (info.frames < 1 || info.frames > INT_MAX / 16) throw std::runtime_error(path + ": empty, or too long");
+  if (info.frames < 1) throw std::runtime_error(path + ": no samples in it");
+  if (info.samplerate < 1000) throw std::runtime_error(path + ": a sampling rate below 1000 Hz");
+  if (info.frames > most_frames)
+    throw std::runtime_error(path + ": longer than " + std::to_string(most_frames / info.samplerate / 60) + " minutes");
 
   std::vector<float> frames(static_cast<size_t>(info.frames) * info.channels);
   if (sf_readf_float(file.get(), frames.data(), info.frames) != info.frames)

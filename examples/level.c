@@ -6,22 +6,38 @@
 #include <stdlib.h>
 #include <tavs.h>
 
-enum { frames_a_second = 50 };
+enum { frames_a_second = 50, most_samples = 1 << 27 };
 
 static double decibels(double ratio) { return ratio > 1e-6 ? 20 * log10(ratio) : -120; }
 
-/* The first channel. */
+/* The first channel, or null and a message. */
 static Tav32f* read_samples(const char* path, int* len, int* rate) {
-  SF_INFO  info = {0};
-  SNDFILE* file = sf_open(path, SFM_READ, &info);
-  Tav32f * all, *samples;
-  int      i;
-  if (file == NULL || info.frames < frames_a_second || info.frames * info.channels > 0x7FFFFFF) return NULL;
+  SF_INFO     info = {0};
+  SNDFILE*    file = sf_open(path, SFM_READ, &info);
+  Tav32f *    all, *samples;
+  const char* trouble = NULL;
+  int         i;
+  if (file == NULL)
+    trouble = sf_strerror(NULL);
+  else if (info.frames < frames_a_second || info.samplerate < frames_a_second)
+    trouble = "fewer than 50 samples, or so few a second";
+  else if (info.frames > most_samples / info.channels)
+    trouble = "too long";
+  if (trouble != NULL) {
+    fprintf(stderr, "level: %s: %s\n", path, trouble);
+    sf_close(file);
+    return NULL;
+  }
   *len = (int)info.frames, *rate = info.samplerate;
   all     = tavsMalloc_32f(*len * info.channels);
   samples = tavsMalloc_32f(*len);
-  if (all != NULL && samples != NULL && sf_readf_float(file, all, *len) == *len)
+  if (all != NULL && samples != NULL && sf_readf_float(file, all, *len) == *len) {
     for (i = 0; i < *len; ++i) samples[i] = all[i * info.channels];
+  } else {
+    fprintf(stderr, "level: %s: not all of it can be read\n", path);
+    tavsFree(samples);
+    samples = NULL;
+  }
   tavsFree(all);
   sf_close(file);
   return samples;
@@ -50,10 +66,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   samples = read_samples(argv[1], &len, &rate);
-  if (samples == NULL) {
-    fprintf(stderr, "level: cannot read %s\n", argv[1]);
-    return 1;
-  }
+  if (samples == NULL) return 1;
   if (tavsMeanStdDev_32f(samples, len, &mean, &deviation, 0) < 0 || tavsNorm_L2_32f(samples, len, &energy) < 0
       || tavsMinMaxIndx_32f(samples, len, &lowest, &lowest_at, &highest, &highest_at) < 0
       || tavsZeroCrossing_32f(samples, len, &crossings, 1) < 0)

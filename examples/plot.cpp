@@ -39,10 +39,17 @@ class Gnuplot {
   FILE* pipe_;
 };
 
+// A text as gnuplot takes it word for word: in single quotes, those in it doubled.
+std::string quoted(const std::string& text) {
+  std::string result = "'";
+  for (const char c : text) result.append(c == '\'' ? 2 : 1, c);
+  return result + "'";
+}
+
 std::string limit(double value) { return std::isnan(value) ? "*" : std::to_string(value); }
 
 void set_axis(Gnuplot& gnuplot, const char* name, const Axis& axis) {
-  gnuplot.say("set %slabel \"%s\"\nset %srange [%s:%s]\n%s logscale %s\n", name, axis.label.c_str(), name,
+  gnuplot.say("set %slabel %s\nset %srange [%s:%s]\n%s logscale %s\n", name, quoted(axis.label).c_str(), name,
               limit(axis.low).c_str(), limit(axis.high).c_str(), axis.logarithmic ? "set" : "unset", name);
 }
 
@@ -54,7 +61,7 @@ void send_map(Gnuplot& gnuplot, const Map& map) {
 }
 
 void draw(Gnuplot& gnuplot, const Panel& panel) {
-  gnuplot.say("set title \"%s\"\n", panel.title.c_str());
+  gnuplot.say("set title %s\n", quoted(panel.title).c_str());
   set_axis(gnuplot, "x", panel.x);
   set_axis(gnuplot, "y", panel.y);
   const char* between = "plot";
@@ -65,7 +72,7 @@ void draw(Gnuplot& gnuplot, const Panel& panel) {
     between = ",";
   }
   for (const Curve& curve : panel.curves) {
-    gnuplot.say("%s '-' with %s title \"%s\"", between, curve.style.c_str(), curve.title.c_str());
+    gnuplot.say("%s '-' with %s title %s", between, curve.style.c_str(), quoted(curve.title).c_str());
     between = ",";
   }
   gnuplot.say("\n");
@@ -86,9 +93,9 @@ void draw(Gnuplot& gnuplot, const Panel& panel) {
 void plot(const std::string& path, const std::vector<Panel>& panels) {
   const int count = static_cast<int>(panels.size());
   Gnuplot   gnuplot;
-  gnuplot.say("set terminal pngcairo size %d,%d font \"DejaVu Sans,12\" background \"white\"\n", width,
+  gnuplot.say("set terminal pngcairo noenhanced size %d,%d font \"DejaVu Sans,12\" background \"white\"\n", width,
               panel_height * count);
-  gnuplot.say("set output \"%s\"\nset multiplot layout %d,1\n", path.c_str(), count);
+  gnuplot.say("set output %s\nset multiplot layout %d,1\n", quoted(path).c_str(), count);
   gnuplot.say("set grid lt 1 lc rgb \"#dde1e7\"\nset border lc rgb \"#78808c\"\nset tics textcolor rgb \"#212529\"\n");
   gnuplot.say(
       "set lmargin 11\nset rmargin 14\nset key tmargin right horizontal\nset linetype 1 lc rgb \"#185896\" lw 1.5\n");

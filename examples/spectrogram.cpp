@@ -7,19 +7,36 @@
 
 namespace {
 
+constexpr int most_columns = 2000;  // more than the picture has
+
+// Of each `several` neighbouring columns the highest levels.
+void merge(std::vector<float>& columns, int bins, int several, Meter& meter) {
+  const int count = static_cast<int>(columns.size()) / bins;
+  for (int i = 0; i < count; ++i) {
+    float *const from = columns.data() + i * bins, *const to = columns.data() + i / several * bins;
+    if (i % several == 0)
+      meter.call("tavsMove_32f", tavsMove_32f, from, to, bins);
+    else
+      meter.call("tavsMaxEvery_32f_I", tavsMaxEvery_32f_I, from, to, bins);
+  }
+  columns.resize(static_cast<size_t>((count + several - 1) / several) * bins);
+}
+
 Map map_of(const Sound& sound, Meter& meter) {
   int order = 8;  // frames of 12 to 25 ms
   while (static_cast<double>(2 << order) / sound.rate < 0.025) ++order;
-  Frames    frames(order, meter);
-  const int count = std::max(1, frames.count(sound));
+  Frames       frames(order, meter);
+  const int    count = std::max(1, frames.count(sound)), several = (count + most_columns - 1) / most_columns;
+  const double step = static_cast<double>(frames.hop()) / sound.rate;
 
   std::vector<float> levels = magnitudes(sound, frames, meter);
   levels.resize(static_cast<size_t>(count) * frames.bins());
+  if (several > 1) merge(levels, frames.bins(), several, meter);
   for (float& level : levels) level = static_cast<float>(decibels(level));
-  return {count,
+  return {static_cast<int>(levels.size()) / frames.bins(),
           frames.bins(),
-          static_cast<double>(frames.hop()) / sound.rate,
-          static_cast<double>(frames.hop()) / sound.rate,
+          step * (several + 1) / 2,
+          step * several,
           static_cast<double>(sound.rate) / frames.size(),
           -100,
           -20,

@@ -8,7 +8,7 @@
  * Rules that hold for every function unless its own text says otherwise:
  * - Lengths count elements, not bytes; a complex pair counts once.
  * - Pointers may have any alignment. Arrays on a 16-byte boundary, such as those of tavsMalloc_*(), run fastest.
- * - A source and a destination are separate arrays, or the same array in the forms whose name ends in I.
+ * - A source and a destination are separate arrays, or the same array in the forms whose name ends in I or ISfs.
  * - Arguments are checked in the order pointers, lengths, other values, and the first fault is the status. A call
  *   that returns an error (a negative status) has written nothing.
  * - Every function may be called from any number of threads at once on different data.

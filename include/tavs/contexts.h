@@ -6,6 +6,8 @@
  * query told, at any alignment), or by its InitAlloc function in memory of its own, which the family's Free function
  * releases. Transform contexts do not change after set-up and may serve any number of threads at once; a filter state
  * or generator state changes with each call and serves one thread at a time.
+ *
+ * Records of families that this version does not have yet are declared already.
  */
 #ifndef TAVS_CONTEXTS_H
 #define TAVS_CONTEXTS_H

@@ -32,7 +32,7 @@ extern "C" {
 /**
  * Tells the sizes of the memory that a context needs.
  *
- * @param order    log2 of the number of points, from 0 to 28 (doubles: 27; the variant s8: 26).
+ * @param order    log2 of the number of points, from 0 to 28; of doubles to 27, or 26 in the variant s8.
  * @param flag     one of #fftScaleForward, #fftScaleInverse, #fftScaleBoth, #fftScaleNone.
  * @param hint     any value; records of floats do not use it.
  * @param specSize receives the bytes of the context.

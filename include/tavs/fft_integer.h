@@ -37,7 +37,7 @@ extern "C" {
 /**
  * Tells the sizes of the memory that a context needs.
  *
- * @param order    log2 of the number of points, from 0 to 28 (32 bits: 27; the variant s8: 26).
+ * @param order    log2 of the number of points, from 0 to 28; of 32 bits to 27, or 26 in the variant s8.
  * @param flag     one of #fftScaleForward, #fftScaleInverse, #fftScaleBoth, #fftScaleNone.
  * @param hint     any value; contexts of 16 bits transform up to 8 points in fixed point if it is 0 or 1.
  * @param specSize receives the bytes of the context.

@@ -26,7 +26,7 @@ extern "C" {
 /**
  * Tells the sizes of the memory that a context needs.
  *
- * @param order    log2 of the number of samples, from 0 to 29 (doubles: 28; the variant s8: 27).
+ * @param order    log2 of the number of samples, from 0 to 29; of doubles to 28, or 27 in the variant s8.
  * @param flag     one of #fftScaleForward, #fftScaleInverse, #fftScaleBoth, #fftScaleNone.
  * @param hint     any value; records of floats do not use it.
  * @param specSize receives the bytes of the context.

@@ -26,7 +26,7 @@ extern "C" {
 /**
  * Tells the sizes of the memory that a context needs.
  *
- * @param order    log2 of the number of points, from 0 to 29 (tavsFFTGetSize_R_32s(): 28; the variant s8: 27).
+ * @param order    log2 of the number of points, from 0 to 29; of 32 bits alone to 28, or 27 in the variant s8.
  * @param flag     one of #fftScaleForward, #fftScaleInverse, #fftScaleBoth, #fftScaleNone.
  * @param hint     any value; tavsFFTInit_R_16s() transforms up to 8 samples in fixed point if it is 0 or 1.
  * @param specSize receives the bytes of the context.

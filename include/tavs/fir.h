@@ -30,6 +30,10 @@ extern "C" {
  *  those of _32s from tavsFIRInit() never. In place, _32f, _32fc, _64f and _64fc work in pieces of 4096 samples, and
  *  transform a piece only if 512 samples or more (complex: 256) follow it: never in a call of 4096 samples. Results of
  *  the different ways differ by rounding.
+ *
+ *  Where samples are integers, the factor 2^-scaleFactor is a float of the type that the filter computes in: 0 for a
+ *  scaleFactor of 127 and more (doubles: 1023), and infinite for one of -128 and less (-1024), where a result of 0
+ *  becomes the highest integer.
  *  @{ */
 
 /** @name tavsFIRGetStateSize, taps in floats

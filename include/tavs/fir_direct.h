@@ -27,7 +27,8 @@ extern "C" {
  *  Taps in floats and integer data: results are multiplied by 2^-scaleFactor, of which the low seven bits of the
  *  magnitude count, limited to the type, and rounded to nearest, ties away from zero. Taps in integers: products and
  *  sums have 32 bits and wrap; results are multiplied by 2^(tapsFactor - scaleFactor), within 31 places, rounded to
- *  nearest, ties to even, and limited to the type. tavsFIR_Direct_16s_Sfs() differs from all others; see there.
+ *  nearest, ties to even, which wrap too (see @ref fir_integer), and limited to the type. tavsFIR_Direct_16s_Sfs()
+ *  differs from all others; see there.
  *  @{ */
 
 /** @name tavsFIR_Direct
@@ -333,7 +334,8 @@ TavStatus tavsFIROne32sc_Direct_16sc_ISfs(Tav16sc* srcDst, const Tav32sc* taps, 
  *  @{ */
 /**
  * Filters a block of Tav16s by taps of Tav16s. The delay line is not the ring of the other calls: it is read and
- * written the newest sample first. A delay line must not be used with tavsFIROne_Direct_16s_Sfs() as well.
+ * written the newest sample first. A delay line must not be used with tavsFIROne_Direct_16s_Sfs() as well. The call
+ * allocates memory for the time it lasts.
  *
  * @param src         the samples.
  * @param dst         receives the results.
@@ -355,7 +357,8 @@ TavStatus tavsFIR_Direct_16s_Sfs(const Tav16s* src, Tav16s* dst, int len, const 
  *  @{ */
 /**
  * Filters a block of Tav16s by taps of Tav16s in place. The delay line is not the ring of the other calls: it is read
- * and written the newest sample first. A delay line must not be used with tavsFIROne_Direct_16s_Sfs() as well.
+ * and written the newest sample first. A delay line must not be used with tavsFIROne_Direct_16s_Sfs() as well. The
+ * call allocates memory for the time it lasts.
  *
  * @param srcDst      the samples; receives the results.
  * @param len         number of samples, at least 1.

@@ -21,11 +21,13 @@ extern "C" {
  *  Taps have an exponent of their own: a tap means h[k] times 2^tapsFactor. They are kept in 16 bits. Those of Tav32s
  * that do not fit are all shifted right until the largest magnitude is at most 32766; those of Tav16s are all shifted
  * by one if one of them is -32768. The exponent grows by what was shifted. From taps in floats (32s_16s32f,
- * 32sc_16sc32fc) the calls make integers of the largest magnitude that fits, up to 2^33 times as large, and their
- * exponent; they serve the states of 32s_16s and 32sc_16sc.
+ *  32sc_16sc32fc) the calls make integers of the largest magnitude that fits, up to 2^33 times as large, and their
+ *  exponent; they serve the states of 32s_16s and 32sc_16sc.
  *
  *  Products and sums have 32 bits and wrap. Results are multiplied by 2^(exponent - scaleFactor), within 31 places,
- * rounded to nearest, ties to even, and limited to 16 bits.
+ *  rounded to nearest, ties to even, and limited to 16 bits. The first two of these steps wrap as well: a shift to the
+ *  left loses its highest bits, and a sum that half a unit of the result carries to 2^31 becomes negative. Sums below
+ *  2^30 that are not shifted to the left are safe.
  *
  *  A state comes from tavsFIRInitAlloc(), which takes the memory it needs and which tavsFIRFree() gives back, or from
  *  tavsFIRInit(), which works in memory of the caller's. It serves one thread at a time.
@@ -133,7 +135,7 @@ TavStatus tavsFIRInitAlloc32sc_16sc32fc(FIRState32sc_16sc** state, const Tav32fc
 /**
  * Releases a filter of tavsFIRInitAlloc(). One of tavsFIRInit() is left as it is.
  *
- * @param state the filter. tavsFIRFree_16s() also takes streams.
+ * @param state the filter.
  * @return #tavStatusOk; #tavStatusNullPointer if @p state is null; #tavStatusBadContext if it is no filter of this
  * type.
  */

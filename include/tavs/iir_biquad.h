@@ -124,7 +124,7 @@ TavStatus tavsIIRInit_BiQuad_DF1_32f(IIRState_32f** state, const Tav32f* taps, i
 /** @name tavsIIRInit, cascades with integer taps
  *  @{ */
 /**
- * Sets a state up in memory of the caller's, with integer taps.
+ * Sets a state up in memory of the caller's, with integer taps. The call allocates memory for the time it lasts.
  *
  * @param state      receives the state, which lies inside @p buf and must not be moved.
  * @param taps       six taps a section.
@@ -341,7 +341,8 @@ TavStatus tavsIIR_BiQuadDirect_16s_I(Tav16s* srcDst, int len, const Tav16s* taps
  *     v = b0 x + d0;  y = (v + ((v >> s) & 1) + 2^((s + 31) mod 32) - 1) >> s
  *     d0 becomes b1 x - a1 y + d1;  d1 becomes b2 x - a2 y
  *
- * and hands y on as it is; the last one's is saturated. Without a shift (s = 0) the power in it is 2^31.
+ * and hands y on as it is; the last one's is saturated. Without a shift (s = 0) the power in it is 2^31: such taps are
+ * of no use here, for v = 0 gives 32767.
  *
  * @param val   the sample.
  * @param dst   receives the result.

@@ -65,7 +65,7 @@ TavStatus tavsIIR_Direct_16s_I(Tav16s* srcDst, int len, const Tav16s* taps, int 
  *     y = (v + (v >> s & 1) + 2^(s-1) - 1) >> s
  *
  * where for s = 0 the power is 2^31; d[i] becomes b[i+1] x - a[i+1] y + d[i+1], with d[N] = 0. The result is saturated
- * on its way out only.
+ * on its way out only. So taps whose a[0] is a multiple of 32 are of no use here: v = 0 gives 32767.
  *
  * @param val   the sample.
  * @param dst   receives the result.

@@ -405,7 +405,8 @@ TavStatus tavsMulC_64f64s_ISfs(Tav64f val, Tav64s* srcDst, unsigned int len, int
  * Adds the product of two arrays to a third: srcDst[i] = (srcDst[i] + src1[i] * src2[i]) * 2^-scaleFactor for i from 0
  * to len - 1.
  *
- * The whole sum is scaled, what the destination held included: a large factor clears it.
+ * The whole sum is scaled, what the destination held included: a large factor clears it. The 32s form gives 0 at every
+ * factor above 62.
  *
  * @param src1        first factor, @p len elements.
  * @param src2        second factor, @p len elements.

@@ -154,8 +154,8 @@ TavStatus tavsMulPackConj_64f_I(const Tav64f* src, Tav64f* srcDst, int len);
 /**
  * Multiplies two packed spectra of integers: X[k] = X1[k] * X2[k] * 2^-scaleFactor, from exact products.
  *
- * Other than in all other scaled functions nothing is rounded: with a positive factor each part becomes the next lower
- * integer, so that with large factors every negative part becomes -1. Then it is saturated.
+ * Unlike most scaled functions these do not round: with a positive factor each part becomes the next lower integer, so
+ * that with large factors every negative part becomes -1. Then it is saturated.
  *
  * @param src1        first source, @p len slots.
  * @param src2        second source, @p len slots.

@@ -15,7 +15,8 @@ extern "C" {
  *
  *  An error means that nothing was written and no context changed, except where a function says otherwise. A
  *  warning means that the work is done, every destination holds a defined value, and at least one element met the
- *  condition named. A call with several faults reports the first one in its order of checks.
+ *  condition named. A call with several faults reports the first one in its order of checks. Some codes belong to
+ *  families that this version does not have yet.
  *  @{ */
 
 /** The result of nearly every function: one of the codes below. */

@@ -81,6 +81,9 @@ class arguments {
     return std::all_of(arrays_.begin(), arrays_.end(),
                        [&](const array& a) { return !(all || a.is_source) || a.held.as_before(); });
   }
+  void look() const {
+    for (const array& a : arrays_) a.held.look();
+  }
   std::vector<std::vector<uint8_t>> results() const {
     std::vector<std::vector<uint8_t>> r;
     for (const array& a : arrays_)
@@ -166,6 +169,7 @@ void check(const char* name, TavStatus status, const arguments& args) {
   const bool keeps_all = status < 0 && !begins(name, {"CartToPolar"});  // which may have written the magnitudes
   if (!args.untouched(keeps_all))
     fail(name, keeps_all ? "an error, and something was written" : "a source was written");
+  args.look();
 }
 
 template <class... A> void call_with_arrays(const char* name, void (*function)(), input& in) {

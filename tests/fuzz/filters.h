@@ -31,7 +31,7 @@ template <class Row> class filter {
     if (in.one_in(2)) {
       alive_ = set_up(Row::init_alloc, taps, from);
     } else {
-      memory_ = std::make_unique<memory>(in, size_t(size), Tav8u{});
+      memory_ = std::make_unique<memory>(in, size_t(size));
       alive_  = set_up(Row::init, taps, from, memory_->data());
     }
   }
@@ -76,22 +76,26 @@ template <class Row> class filter {
     if ((status < 0) != (len < 1)) fail(name_, "the block has another status");
     if (!src.as_before()) fail(name_, "the source was written");
     if (status < 0 && !dst.as_before()) fail(name_, "an error, and something was written");
+    dst.look();
   }
   void in_place() {
     const int    len = length();
     const memory both(in_, size_t(len), data{});
     if (call_with(Row::in_place, in_.number(), at<data>(both), len, state_) < 0) fail(name_, "the block is refused");
+    both.look();
   }
   void one_by_one() {
     for (int count = in_.below(6); count > 0; --count) {
       const memory dst(in_, 1, data{});
       if (call_with(Row::one, in_.number(), in_.data().template value<data>(), at<data>(dst), state_) < 0)
         fail(name_, "the sample is refused");
+      dst.look();
     }
   }
   void line() {
     const memory held = drawn_line();
     if (Row::get_dly(state_, at<dly>(held)) < 0) fail(name_, "no delay line");
+    held.look();
     const memory next = drawn_line();
     if (Row::set_dly(state_, in_.one_in(4) ? nullptr : at<dly>(next)) < 0) fail(name_, "the delay line is refused");
   }

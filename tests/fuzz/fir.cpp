@@ -46,6 +46,7 @@ template <class F> void call_direct(const char* name, void (*)(), input& in) {
     if (status < 0) fail(name, "the call is refused");
     if (!src.as_before() || !h.as_before()) fail(name, "a source was written");
     if (index < 0 || index >= n) fail(name, "the place in the delay line has left it");
+    dst.look(), line.look();
   }
 }
 

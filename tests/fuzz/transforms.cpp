@@ -23,8 +23,8 @@ template <class F> class context {
       if (F::init_alloc(&ctx_, order, flag, hint) < 0) fail(name, "no context of sizes that were told");
       return;
     }
-    spec_ = std::make_unique<memory>(in, size_t(spec), Tav8u{});
-    const memory scratch(in, size_t(init), Tav8u{});
+    spec_ = std::make_unique<memory>(in, size_t(spec));
+    const memory scratch(in, size_t(init));
     if (F::init(&ctx_, order, flag, hint, spec_->data(), scratch.data()) < 0)
       fail(name, "no context in memory of the sizes that were told");
   }
@@ -40,7 +40,7 @@ template <class F> class context {
   std::unique_ptr<memory> work(input& in) const {
     int size = -1;
     if (F::get_buf_size(ctx_, &size) < 0 || size < 0) fail(name_, "no size of the work area");
-    return in.one_in(3) ? nullptr : std::make_unique<memory>(in, size_t(size), Tav8u{});
+    return in.one_in(3) ? nullptr : std::make_unique<memory>(in, size_t(size));
   }
 
  private:
@@ -51,9 +51,10 @@ template <class F> class context {
 
 Tav8u* place_of(const std::unique_ptr<memory>& m) { return m ? m->data() : nullptr; }
 
-void expect_done(const char* name, TavStatus status, const memory& src) {
+void expect_done(const char* name, TavStatus status, const memory& src, const memory& dst) {
   if (status != tavStatusOk) fail(name, "the call is refused");
   if (!src.as_before()) fail(name, "the source was written");
+  dst.look();
 }
 
 // Elements of type `part` that hold N points or samples, or their spectrum.
@@ -74,13 +75,14 @@ template <class F, bool Inverse> void float_transform(const char* name, input& i
     memory      both(in, std::max(from, to), part{});
     auto* const p = reinterpret_cast<part*>(both.data());
     if (test::run_fft<F, Inverse>(p, p, n, c.get(), place_of(work)) != tavStatusOk) fail(name, "the call is refused");
+    both.look();
     return;
   }
   const memory src(in, from, part{}), dst(in, to, part{});
   expect_done(name,
               test::run_fft<F, Inverse>(reinterpret_cast<const part*>(src.data()), reinterpret_cast<part*>(dst.data()),
                                         n, c.get(), place_of(work)),
-              src);
+              src, dst);
 }
 
 template <class F> void call_float(const char* name, void (*)(), input& in) {
@@ -112,13 +114,14 @@ template <class F> void call_integer(const char* name, void (*)(), input& in) {
     if (F::run(reinterpret_cast<S*>(both.data()), reinterpret_cast<D*>(both.data()), n, c.get(), scale, place_of(work))
         < 0)
       fail(name, "the call is refused");
+    both.look();
     return;
   }
   const memory src(in, from, S{}), dst(in, to, D{});
   expect_done(name,
               F::run(reinterpret_cast<const S*>(src.data()), reinterpret_cast<D*>(dst.data()), n, c.get(), scale,
                      place_of(work)),
-              src);
+              src, dst);
 }
 
 }  // namespace
