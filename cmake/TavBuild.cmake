@@ -34,6 +34,9 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   list(APPEND tav_code_options -fno-tree-vectorize -fno-tree-loop-distribute-patterns -falign-loops=64)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    list(APPEND tav_code_options -maccumulate-outgoing-args)   # realigned stacks then cost no second register
+  endif()
   set(tav_s8_options -fschedule-insns -fsched-pressure)   # in-order processors want loads well ahead of their use
 else()
   list(APPEND tav_code_options -fno-vectorize -fno-slp-vectorize)

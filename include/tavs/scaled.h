@@ -421,7 +421,6 @@ TavStatus tavsAddProduct_32s_Sfs(const Tav32s* src1, const Tav32s* src2, Tav32s*
 /** @} */
 /** @} */
 
-
 #ifdef __cplusplus
 }
 #endif

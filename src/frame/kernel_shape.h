@@ -1,16 +1,19 @@
 // The one shape of every element-wise kernel.
 //
-//   short arrays ......... scalar loop
-//   head ................. scalar, until dst reaches a 16-byte boundary
-//   rounds ............... a few vector steps each; past a limit their stores bypass the cache
-//   steps ................ what is left in whole vectors
-//   tail ................. scalar
+//   less than a vector ... scalar loop
+//   short arrays ......... rounds of a few vectors each, then halves of a round, wherever dst lies
+//   long arrays .......... the same from the first 16-byte boundary of dst on, if the operation is cheap; past a limit
+//                          the rounds bypass the cache
+//   last vector .......... ends with the array, over what stands there already
 //
-// A dst that is not on its element size has no head and stores unaligned throughout. Sources are loaded unaligned in
-// every loop: measured, loops for aligned sources are no faster, only more code.
+// The last vector, and the first of a long array, overlap their neighbours; all vectors that read an element are
+// computed before it is written, so that dst may be a source. A dst that is not on its element size never reaches a
+// boundary and counts as short. Sources are loaded unaligned in every loop: measured, loops for aligned sources are no
+// faster, only more code.
 //
-// An operation is a struct with `shape`, `one(elements...)` for the scalar parts and `many(registers...)` for a vector
-// step, which must agree bit for bit. If it can warn, it remembers what it met and tells it by `status()`.
+// An operation is a struct with `shape`, `one(elements...)` for the scalar loop and `many(registers...)` for a vector,
+// which must agree bit for bit. If it can warn, it remembers what it met and tells it by `status()`; it meets some
+// elements twice.
 #pragma once
 #include "frame/registers.h"
 
@@ -19,7 +22,6 @@ namespace tav::TAV_VARIANT {
 inline constexpr size_t never = ~size_t(0);
 
 struct kernel_shape {
-  int    vector_from;           // below this length the scalar loop does all the work; at least a register less one
   int    round_bytes;           // bytes of dst in one round of the main loop
   int    step         = 0;      // elements in one call of many(); 0: as many as one register of dst holds
   size_t stream_above = never;  // rounds above which stores bypass the cache
@@ -43,10 +45,6 @@ template <access Store, int N, class D, class S> TAV_INLINE auto elements(D* dst
     return load<access::unaligned, N>(src + i);
 }
 
-template <class Op, class D, class... S> TAV_INLINE void scalar_loop(Op& op, D* dst, size_t from, size_t to, S... src) {
-  for (size_t i = from; i < to; ++i) poke(dst + i, D(op.one(element(dst, src, i)...)));
-}
-
 // Next to stores that bypass the cache the processor's own prefetch lags behind: asking for the sources makes sums of
 // two arrays 2 to 7 % faster from memory. Farther ahead gains more on huge pages but loses on small ones. A prefetch
 // may point behind an array; it never faults.
@@ -55,16 +53,56 @@ template <class S> TAV_INLINE void ask_ahead(const S* src, size_t i) {
   _mm_prefetch(reinterpret_cast<const char*>(src + i) + bytes_ahead, _MM_HINT_T0);
 }
 
-// Elements [from, from + count) in steps of `Steps` vectors at a time; count is a multiple of that.
-template <access Store, int Steps, class Op, class D, class... S>
-TAV_INLINE void vector_loop(Op& op, D* dst, size_t from, size_t count, S... src) {
+template <class Op, class D> inline constexpr int round_of = Op::shape.round_bytes / int(sizeof(D));
+
+// Count elements from `at` on.
+template <access Store, int Count, class Op, class D, class... S>
+TAV_INLINE void vectors(Op& op, D* dst, size_t at, S... src) {
   constexpr int step = step_of<Op, D>;
-  for (const size_t end = from + count; from != end; from += Steps * step) {
-    if constexpr (Store == access::streaming) (ask_ahead(src, from), ...);
+  static_assert(Count >= step && Count % step == 0);
 #pragma GCC unroll 16
-    for (int k = 0; k < Steps; ++k)
-      store<Store>(dst + from + k * step, op.many(elements<Store, step>(dst, src, from + k * step)...));
+  for (int k = 0; k < Count; k += step) store<Store>(dst + at + k, op.many(elements<Store, step>(dst, src, at + k)...));
+}
+
+// Half a round, a quarter and so on, until no more than a vector is left.
+template <access Store, int Count, class Op, class D, class... S>
+TAV_INLINE void parts_of_round(Op& op, D* dst, size_t at, size_t len, S... src) {
+  if constexpr (Count >= step_of<Op, D>) {
+    if (at + Count < len) {
+      vectors<Store, Count>(op, dst, at, src...);
+      at += Count;
+    }
+    parts_of_round<Store, Count / 2>(op, dst, at, len, src...);
   }
+}
+
+// Where rounds from `at` on end, if something is to be left behind them.
+template <int Round> TAV_INLINE size_t end_of_rounds(size_t at, size_t len) {
+  return at + (len - at - 1) / Round * Round;
+}
+
+// All from `at` on; at least a vector. The last one ends with the array: it is computed before anything is written,
+// for dst may be a source.
+template <access Store, class Op, class D, class... S>
+TAV_INLINE void to_end(Op& op, D* dst, size_t at, size_t len, S... src) {
+  constexpr int step = step_of<Op, D>, round = round_of<Op, D>;
+  const auto    last = op.many(elements<access::unaligned, step>(dst, src, len - step)...);
+  for (const size_t end = end_of_rounds<round>(at, len); at != end; at += round)
+    vectors<Store, round>(op, dst, at, src...);
+  parts_of_round<Store, round / 2>(op, dst, at, len, src...);
+  __asm__("" : "+r"(len));  // or the place of the last vector would take one of the few registers all the time
+  store<access::unaligned>(dst + len - step, last);
+}
+
+// Rounds that bypass the cache. Returns where they end, which leaves a vector at least.
+template <class Op, class D, class... S>
+TAV_INLINE size_t streamed_rounds(Op& op, D* dst, size_t at, size_t len, S... src) {
+  constexpr int round = round_of<Op, D>;
+  for (const size_t end = end_of_rounds<round>(at, len - step_of<Op, D>); at != end; at += round) {
+    (ask_ahead(src, at), ...);
+    vectors<access::streaming, round>(op, dst, at, src...);
+  }
+  return at;
 }
 
 template <class Op> TAV_INLINE TavStatus status_of(const Op& op) {
@@ -74,51 +112,41 @@ template <class Op> TAV_INLINE TavStatus status_of(const Op& op) {
     return tavStatusOk;
 }
 
-template <access Store, class Op, class D, class... S>
-TAV_INLINE void rounds_and_tail(Op& op, D* dst, size_t head, size_t rounds, size_t len, S... src) {
-  constexpr size_t step = step_of<Op, D>, steps = Op::shape.round_bytes / (step * sizeof(D));
-  static_assert(steps >= 1 && steps * step * sizeof(D) == size_t(Op::shape.round_bytes));
-  vector_loop<Store, int(steps)>(op, dst, head, rounds * steps * step, src...);
-  size_t done = head + rounds * steps * step;
-  if constexpr (steps > 1) {
-    constexpr access unstreamed = Store == access::streaming ? access::aligned : Store;
-    const size_t     left       = (len - done) / step * step;
-    vector_loop<unstreamed, 1>(op, dst, done, left, src...);
-    done += left;
-  }
-  scalar_loop(op, dst, done, len, src...);
-}
-
 // In place the loads have brought the destination into the cache already.
 template <class Op, class... S>
 inline constexpr bool may_stream = Op::shape.stream_above != never && !(std::is_same_v<S, self> || ...);
 
-// The operation comes by reference: for a tail call gcc would build it in the caller's own arguments, where the
-// registers that it holds may lie unaligned in 32-bit code.
-template <class Op, class D, class... S> TavStatus elementwise(const Op& given, D* dst, size_t len, S... src) {
-  static_assert(Op::shape.vector_from >= lanes<D> - 1, "the head must fit into the shortest array that has one");
-  Op op = given;
-  if (len < size_t(Op::shape.vector_from)) {
-    scalar_loop(op, dst, 0, len, src...);
-    return status_of(op);
-  }
-  const auto   address    = reinterpret_cast<uintptr_t>(dst);
-  const bool   on_element = address % sizeof(D) == 0;
-  const size_t head       = on_element ? -((address & 15) / sizeof(D)) & (lanes<D> - 1) : 0;
-  const size_t rounds     = (len - head) / (Op::shape.round_bytes / sizeof(D));
+// From the first boundary on.
+template <class Op, class D, class... S>
+TAV_APART TavStatus long_elementwise(const Op& given, D* dst, size_t len, S... src) {
+  constexpr int step   = step_of<Op, D>;
+  Op            op     = given;
+  size_t        at     = -(reinterpret_cast<uintptr_t>(dst) / sizeof(D)) & (lanes<D> - 1);
+  const auto    first  = op.many(elements<access::unaligned, step>(dst, src, 0)...);
+  const auto    second = op.many(elements<access::unaligned, step>(dst, src, at)...);
+  store<access::unaligned>(dst, first);
+  store<access::aligned>(dst + at, second);
+  at += step;
+  if constexpr (may_stream<Op, S...>)
+    if (len - at > Op::shape.stream_above * round_of<Op, D>) at = streamed_rounds(op, dst, at, len, src...);
+  to_end<access::aligned>(op, dst, at, len, src...);
+  return status_of(op);
+}
 
-  scalar_loop(op, dst, 0, head, src...);
-  if (!on_element) {
-    rounds_and_tail<access::unaligned>(op, dst, head, rounds, len, src...);
+// Up to so many bytes, reaching a boundary costs more than stores across lines. Where a round is one register the
+// computation takes so long that it never pays.
+inline constexpr size_t                   short_array      = 1024;
+template <class Op> inline constexpr bool reaches_boundary = Op::shape.round_bytes > 16;
+
+template <class Op, class D, class... S> TAV_INLINE TavStatus elementwise(Op op, D* dst, size_t len, S... src) {
+  if (__builtin_expect(len < step_of<Op, D>, false)) {
+    for (size_t i = 0; i < len; ++i) poke(dst + i, D(op.one(element(dst, src, i)...)));
     return status_of(op);
   }
-  if constexpr (may_stream<Op, S...>) {
-    if (rounds > Op::shape.stream_above) {
-      rounds_and_tail<access::streaming>(op, dst, head, rounds, len, src...);
-      return status_of(op);
-    }
-  }
-  rounds_and_tail<access::aligned>(op, dst, head, rounds, len, src...);
+  if constexpr (reaches_boundary<Op>)
+    if (len > short_array / sizeof(D) && reinterpret_cast<uintptr_t>(dst) % sizeof(D) == 0)
+      return long_elementwise(Op(op), dst, len, src...);
+  to_end<access::unaligned>(op, dst, 0, len, src...);
   return status_of(op);
 }
 

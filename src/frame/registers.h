@@ -10,6 +10,8 @@
 #include "tavs.h"
 
 #define TAV_INLINE inline __attribute__((always_inline))
+// A function that is not to be inlined, so that its registers burden nobody else.
+#define TAV_APART __attribute__((noinline))
 
 namespace tav::TAV_VARIANT {
 

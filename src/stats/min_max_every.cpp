@@ -36,11 +36,16 @@ template <class T> struct larger {
 };
 
 template <class Op> TAV_APART TavStatus every_of_long(const void* src1, const void* src2, void* dst, size_t n) {
-  return in_long<sizeof(typename Op::element)>(Op{}, Op{}, bytes(dst), n, bytes(src1), bytes(src2));
+  return in_long(Op{}, Op{}, bytes(dst), n, bytes(src1), bytes(src2));
+}
+
+template <class Op> TAV_APART TavStatus every_of_medium(const void* src1, const void* src2, void* dst, size_t n) {
+  if (is_long<sizeof(typename Op::element)>(dst, n)) return every_of_long<Op>(src1, src2, dst, n);
+  return in_medium(Op{}, bytes(dst), n, bytes(src1), bytes(src2));
 }
 
 template <class Op> TAV_APART TavStatus every_of(const void* src1, const void* src2, void* dst, size_t n) {
-  if (n > short_bytes) return every_of_long<Op>(src1, src2, dst, n);
+  if (n > short_bytes) return every_of_medium<Op>(src1, src2, dst, n);
   return in_short(Op{}, bytes(dst), n, bytes(src1), bytes(src2));
 }
 

@@ -4,14 +4,14 @@
 namespace tav::TAV_VARIANT {
 
 struct abs_16s : types<Tav16s, Tav16s, Tav16s> {
-  static constexpr kernel_shape shape{.vector_from = 16, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav16s  one(Tav16s a) { return Tav16s(a < -32767 ? 32767 : a < 0 ? -a : a); }
   static __m128i many(__m128i a) { return _mm_abs_epi16(_mm_max_epi16(a, _mm_set1_epi16(-32767))); }
 };
 
 struct abs_32s : types<Tav32s, Tav32s, Tav32s> {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav32s  one(Tav32s a) { return a == INT32_MIN ? INT32_MAX : a < 0 ? -a : a; }
   static __m128i many(__m128i a) {  // of the lowest one nothing but the sign bit is left: one less is the highest
@@ -22,14 +22,14 @@ struct abs_32s : types<Tav32s, Tav32s, Tav32s> {
 
 // Clears the sign bit, of -0.0 and of NaNs too.
 struct abs_32f : types<Tav32f, Tav32f, Tav32f> {
-  static constexpr kernel_shape shape{.vector_from = 11, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav32f one(Tav32f a) { return __builtin_fabsf(a); }
   static __m128 many(__m128 a) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), a); }
 };
 
 struct abs_64f : types<Tav64f, Tav64f, Tav64f> {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav64f  one(Tav64f a) { return __builtin_fabs(a); }
   static __m128d many(__m128d a) { return _mm_andnot_pd(_mm_set1_pd(-0.0), a); }

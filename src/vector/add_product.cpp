@@ -5,8 +5,7 @@
 namespace tav::TAV_VARIANT {
 
 template <class T> struct product_and_sum : types<T, T, T> {
-  static constexpr kernel_shape shape{.vector_from = std::is_same_v<T, Tav32f> ? 16 : float_shape<T>.vector_from,
-                                      .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static T      one(T a, T b, T c) { return sum_of<T>::one(product_of<T>::one(a, b), c); }
   static reg<T> many(reg<T> a, reg<T> b, reg<T> c) { return sum_of<T>::many(product_of<T>::many(a, b), c); }

@@ -14,14 +14,11 @@ concept real_float = std::is_floating_point_v<T>;
 template <class T>
 concept complex_float = std::is_same_v<T, Tav32fc> || std::is_same_v<T, Tav64fc>;
 
-template <class T> inline constexpr kernel_shape float_shape{.vector_from = 8, .round_bytes = 32};
-template <>
-inline constexpr kernel_shape float_shape<Tav32f>{.vector_from = 11, .round_bytes = 32, .stream_above = 0x2AAA};
-template <> inline constexpr kernel_shape float_shape<Tav32fc>{.vector_from = 4, .round_bytes = 32};
-template <> inline constexpr kernel_shape float_shape<Tav64fc>{.vector_from = 2, .round_bytes = 32};
+template <class T> inline constexpr kernel_shape float_shape{.round_bytes = 32};
+template <> inline constexpr kernel_shape        float_shape<Tav32f>{.round_bytes = 32, .stream_above = 0x2AAA};
 
-inline constexpr kernel_shape shape_16_bit{.vector_from = 15, .round_bytes = 32};
-inline constexpr kernel_shape shape_32_bit{.vector_from = 8, .round_bytes = 32};
+inline constexpr kernel_shape shape_16_bit{.round_bytes = 32};
+inline constexpr kernel_shape shape_32_bit{.round_bytes = 32};
 
 TAV_INLINE Tav16s saturated_16s(Tav32s v) { return Tav16s(v > 32767 ? 32767 : v < -32768 ? -32768 : v); }
 
@@ -141,7 +138,7 @@ template <class Op> struct of_bytes : types<Tav8u, Tav8u, Tav16u> {  // Op in 16
 TAV_INLINE __m128i low_half_as_32s(__m128i v) { return _mm_srai_epi32(_mm_unpacklo_epi16(v, v), 16); }
 
 template <class Op> struct converted_16s : types<Tav16s, Tav16s, Tav32f> {
-  static constexpr kernel_shape shape{.vector_from = 11, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav32f one(Tav16s a, Tav16s b) { return Op::one(Tav32f(a), Tav32f(b)); }
   static __m128 many(__m128i a, __m128i b) { return Op::many(floats(a), floats(b)); }

@@ -1,17 +1,17 @@
 // Fills and copies in 16-byte stores. Blocks up to 128 bytes go in a few overlapping accesses, all loads before the
-// first store, which serves copies, moves in either direction and exact aliases alike. Longer ones run aligned to dst.
+// first store, which serves copies, moves in either direction and exact aliases alike. Above a kilobyte they run
+// aligned to dst.
 #include "vector/byte_engine.h"
 
 #include "frame/cache.h"
 #include "frame/registers.h"
 
-#define TAV_LONG __attribute__((noinline))
-
 namespace tav::shared {
 namespace {
 
-constexpr size_t small_block = 128;  // done by overlapping accesses
-constexpr size_t round_bytes = 64;   // a round of the long loops
+constexpr size_t small_block  = 128;   // done by overlapping accesses
+constexpr size_t medium_block = 1024;  // up to here the way to a boundary costs more than stores across lines
+constexpr size_t round_bytes  = 64;    // a round of the loops
 
 template <class T> TAV_INLINE void copy_ends(Tav8u* dst, const Tav8u* src, size_t n) {  // sizeof(T) <= n <= twice that
   T first, last;
@@ -58,33 +58,57 @@ TAV_INLINE void move_small(Tav8u* dst, const Tav8u* src, size_t n) {  // up to s
     move_by_ends<4>(dst, src, n);
 }
 
-template <access Store> TAV_INLINE void move_round(Tav8u* dst, const Tav8u* src) {
+struct round_of_bytes {
   __m128i v[round_bytes / 16];
+};
+
+TAV_INLINE round_of_bytes load_round(const Tav8u* src) {
+  round_of_bytes r;
 #pragma GCC unroll 4
-  for (size_t k = 0; k < round_bytes / 16; ++k) v[k] = load_bits<access::unaligned>(src + 16 * k);
-#pragma GCC unroll 4
-  for (size_t k = 0; k < round_bytes / 16; ++k) store_bits<Store>(dst + 16 * k, v[k]);
+  for (size_t k = 0; k < round_bytes / 16; ++k) r.v[k] = load_bits<access::unaligned>(src + 16 * k);
+  return r;
+}
+
+template <access Store> TAV_INLINE void store_round(Tav8u* dst, const round_of_bytes& r) {
+#pragma GCC                             unroll 4
+  for (size_t k = 0; k < round_bytes / 16; ++k) store_bits<Store>(dst + 16 * k, r.v[k]);
+}
+
+template <access Store> TAV_INLINE void move_round(Tav8u* dst, const Tav8u* src) {
+  store_round<Store>(dst, load_round(src));
+}
+
+// More than a round; what is left in the end goes as a round as well, which is loaded before anything is stored.
+template <access Store> TAV_INLINE TavStatus rounds_up(const Tav8u* src, Tav8u* dst, size_t n) {
+  const round_of_bytes last    = load_round(src + n - round_bytes);
+  Tav8u* const         to_last = dst + n - round_bytes;
+  for (const Tav8u* end = src + (n - 1) / round_bytes * round_bytes; src != end; src += round_bytes, dst += round_bytes)
+    move_round<Store>(dst, src);
+  return store_round<access::unaligned>(to_last, last), tavStatusOk;
+}
+template <access Store> TAV_INLINE TavStatus rounds_down(const Tav8u* src, Tav8u* dst, size_t n) {
+  const round_of_bytes first = load_round(src);
+  for (; n > round_bytes; n -= round_bytes) move_round<Store>(dst + n - round_bytes, src + n - round_bytes);
+  return store_round<access::unaligned>(dst, first), tavStatusOk;
 }
 
 // The long roads are functions of their own, reached by a jump, so that short blocks pay nothing for them.
 
 // From the start up; right for any overlap with dst below src.
-TAV_LONG TavStatus forward(const Tav8u* src, Tav8u* dst, size_t n) {
+TAV_APART TavStatus forward(const Tav8u* src, Tav8u* dst, size_t n) {
+  if (n <= medium_block) return rounds_up<access::unaligned>(src, dst, n);
   const size_t head = -reinterpret_cast<uintptr_t>(dst) & 15;
   move_below_16(dst, src, head);
-  dst += head, src += head, n -= head;
-  for (; n >= round_bytes; n -= round_bytes, dst += round_bytes, src += round_bytes)
-    move_round<access::aligned>(dst, src);
-  return move_small(dst, src, n), tavStatusOk;
+  return rounds_up<access::aligned>(src + head, dst + head, n - head);
 }
 
 // From the end down; right for any overlap with dst above src.
-TAV_LONG TavStatus backward(const Tav8u* src, Tav8u* dst, size_t n) {
+TAV_APART TavStatus backward(const Tav8u* src, Tav8u* dst, size_t n) {
+  if (n <= medium_block) return rounds_down<access::unaligned>(src, dst, n);
   const size_t tail = reinterpret_cast<uintptr_t>(dst + n) & 15;
   n -= tail;
   move_below_16(dst + n, src + n, tail);
-  for (; n >= round_bytes; n -= round_bytes) move_round<access::aligned>(dst + n - round_bytes, src + n - round_bytes);
-  return move_small(dst, src, n), tavStatusOk;
+  return rounds_down<access::aligned>(src, dst, n);
 }
 
 // Past the cache, with a fence behind each block. The source is asked for well ahead: the processor's own prefetch
@@ -102,12 +126,12 @@ TAV_INLINE void stream_block(const Tav8u* src, Tav8u* dst, size_t n) {
   move_small(dst, src, n);
 }
 
-TAV_LONG TavStatus stream(const Tav8u* src, Tav8u* dst, size_t n, size_t block) {
+TAV_APART TavStatus stream(const Tav8u* src, Tav8u* dst, size_t n, size_t block) {
   for (; block != 0 && n > block; n -= block, dst += block, src += block) stream_block(src, dst, block);
   return stream_block(src, dst, n), tavStatusOk;
 }
 
-template <copy_plan Plan> TAV_LONG TavStatus copy_long(const Tav8u* src, Tav8u* dst, size_t n) {
+template <copy_plan Plan> TAV_APART TavStatus copy_long(const Tav8u* src, Tav8u* dst, size_t n) {
   return copy_streams(Plan, n) ? stream(src, dst, n, Plan.stream_block) : forward(src, dst, n);
 }
 
@@ -144,6 +168,7 @@ TAV_INLINE void fill_below_16(Tav8u* dst, __m128i pattern, size_t n) {
   }
 }
 
+// Up to less than a round before the end.
 template <access Store> TAV_INLINE void fill_rounds(Tav8u* p, const Tav8u* end, __m128i pattern) {
   for (; size_t(end - p) >= round_bytes; p += round_bytes)
 #pragma GCC unroll 4
@@ -151,7 +176,8 @@ template <access Store> TAV_INLINE void fill_rounds(Tav8u* p, const Tav8u* end, 
 }
 
 // Both ends stand already, 64 bytes each: what lies between goes in aligned stores, which may run a little into them.
-template <int Width> TAV_LONG TavStatus fill_between(Tav8u* dst, size_t n, __m128i pattern) {
+template <int Width> TAV_APART TavStatus fill_between(Tav8u* dst, size_t n, __m128i pattern) {
+  if (n <= medium_block) return fill_rounds<access::unaligned>(dst + 64, dst + n, pattern), tavStatusOk;
   const size_t head = 64 - (reinterpret_cast<uintptr_t>(dst) & 15);
   if (head % Width != 0) pattern = rotated(pattern, head % 16);
   if (!fill_streams(n / Width, Width)) return fill_rounds<access::aligned>(dst + head, dst + n, pattern), tavStatusOk;

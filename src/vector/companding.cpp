@@ -20,7 +20,7 @@ template <class Law> TAV_INLINE __m128i codes_of(__m128i low, __m128i high) {
 }
 
 template <class Law> struct compressed_16s : types<Tav16s, Tav16s, Tav8u> {
-  static constexpr kernel_shape shape{.vector_from = 16, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   static Tav8u   one(Tav16s sample) { return code_of<Law>(sample); }
   static __m128i many(several<__m128i, 2> samples) { return codes_of<Law>(samples.r[0], samples.r[1]); }
@@ -28,7 +28,7 @@ template <class Law> struct compressed_16s : types<Tav16s, Tav16s, Tav8u> {
 
 // Samples of -1 to 1, rounded as the law tells; what lies outside is limited, and a NaN is the highest sample.
 template <class Law> struct compressed_32f : types<Tav32f, Tav32f, Tav8u> {
-  static constexpr kernel_shape shape{.vector_from = 16, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   static Tav8u one(Tav32f sample) {
     const __m128 v = _mm_set_ss(sample);
@@ -56,14 +56,14 @@ template <class Law> TavStatus compressed_floats(const Tav32f* src, Tav8u* dst, 
 }
 
 template <class Law> struct expanded_16s : types<Tav8u, Tav8u, Tav16s> {
-  static constexpr kernel_shape shape{.vector_from = 16, .round_bytes = 32, .step = 16};
+  static constexpr kernel_shape shape{.round_bytes = 32, .step = 16};
 
   static Tav16s              one(Tav8u code) { return Law::table.sample[code]; }
   static several<__m128i, 2> many(__m128i codes) { return Law::samples(codes); }
 };
 
 template <class Law> struct expanded_32f : types<Tav8u, Tav8u, Tav32f> {  // exact
-  static constexpr kernel_shape shape{.vector_from = 16, .round_bytes = 64, .step = 16};
+  static constexpr kernel_shape shape{.round_bytes = 64, .step = 16};
 
   static Tav32f             one(Tav8u code) { return Tav32f(Law::table.sample[code]) * 0x1p-15f; }
   static several<__m128, 4> many(__m128i codes) {
@@ -80,7 +80,7 @@ template <class Law> struct expanded_32f : types<Tav8u, Tav8u, Tav32f> {  // exa
 
 // A look-up in eight registers: a row counts as long as the index, less 16 for each row, has not become negative.
 template <const code_map& Map> struct recoded : types<Tav8u, Tav8u, Tav8u> {
-  static constexpr kernel_shape shape{.vector_from = 16, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   static Tav8u   one(Tav8u code) { return Tav8u(Map.code[code & 0x7F] | (code & 0x80)); }
   static __m128i many(__m128i codes) {

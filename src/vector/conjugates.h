@@ -6,7 +6,7 @@
 namespace tav::TAV_VARIANT {
 
 template <class C> struct conjugate_of : types<C, C, C> {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   TAV_INLINE static C      one(C v) { return {v.re, -v.im}; }
   TAV_INLINE static reg<C> many(reg<C> v) {
@@ -15,7 +15,7 @@ template <class C> struct conjugate_of : types<C, C, C> {
 };
 
 template <> struct conjugate_of<Tav16sc> : types<Tav16sc, Tav16sc, Tav16sc> {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav16sc one(Tav16sc v) { return {v.re, Tav16s(v.im < -32767 ? 32767 : -v.im)}; }
   static __m128i many(__m128i v) {  // -im is one more than the complement of im

@@ -8,7 +8,7 @@ namespace tav::TAV_VARIANT {
 
 template <class Op> struct second_is_constant : types<typename Op::src1, typename Op::src2, typename Op::dst> {
   using constant_type = typename Op::src2;
-  static constexpr kernel_shape shape{.vector_from = Op::shape.vector_from, .round_bytes = Op::shape.round_bytes};
+  static constexpr kernel_shape shape{.round_bytes = Op::shape.round_bytes};
 
   explicit second_is_constant(constant_type v) : val(v), all(from_bits<constant_type>(repeated(v))) {}
 
@@ -22,7 +22,7 @@ template <class Op> struct second_is_constant : types<typename Op::src1, typenam
 
 template <class Op> struct first_is_constant : types<typename Op::src2, typename Op::src1, typename Op::dst> {
   using constant_type = typename Op::src1;
-  static constexpr kernel_shape shape{.vector_from = Op::shape.vector_from, .round_bytes = Op::shape.round_bytes};
+  static constexpr kernel_shape shape{.round_bytes = Op::shape.round_bytes};
 
   explicit first_is_constant(constant_type v) : val(v), all(from_bits<constant_type>(repeated(v))) {}
 

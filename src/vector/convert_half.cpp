@@ -10,14 +10,14 @@ namespace tav::TAV_VARIANT {
 // Each takes eight elements, and as many steps for one: the first lanes of the registers.
 
 struct float_of_half : types<Tav16u, void, Tav32f> {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 32, .step = 8};
+  static constexpr kernel_shape shape{.round_bytes = 32, .step = 8};
 
   static Tav32f             one(Tav16u h) { return _mm_cvtss_f32(many(in_a_lane(h)).r[0]); }
   static several<__m128, 2> many(__m128i h) { return floats_of_halves(h); }
 };
 
 template <class S, class D> struct half_types : types<S, void, D> {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   static D first_of(__m128i v) { return D(_mm_cvtsi128_si32(v)); }
 };

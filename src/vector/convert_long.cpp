@@ -27,7 +27,7 @@ struct long_down_to_32s {
 };
 
 template <class Scale> struct convert_64s32s_kernel {
-  static constexpr kernel_shape shape{.vector_from = 7, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   Scale scale;
 
@@ -62,7 +62,7 @@ struct convert_64s32s : types<Tav64s, Tav64s, Tav32s> {
 // 64 bits to a double, rounded once, in the caller's mode: each half is written into the fraction of a double that is
 // large enough to hold it in place. Downward, the sum makes -0.0 of a zero: the sign is the integer's.
 struct convert_64s64f : types<Tav64s, Tav64s, Tav64f> {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav64f  one(Tav64s a) { return _mm_cvtsd_f64(many(load_low<8>(&a))); }
   static __m128d many(__m128i v) {
@@ -83,7 +83,7 @@ static TavStatus convert_longs_to_doubles(const Tav64s* src, Tav64f* dst, unsign
 // for. To round ties away from zero the magnitude comes raised by a half.
 class convert_64f64s_kernel {
  public:
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   convert_64f64s_kernel(Tav64f multiplier, bool ties_away)
       : by_(_mm_set1_pd(multiplier)), raise_(_mm_set1_pd(ties_away ? 0.5 : 0)) {}

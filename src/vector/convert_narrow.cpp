@@ -7,7 +7,7 @@
 namespace tav::TAV_VARIANT {
 
 struct convert_32s16s : types<Tav32s, Tav32s, Tav16s> {
-  static constexpr kernel_shape shape{.vector_from = 15, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav16s  one(Tav32s a) { return from_a_lane<Tav16s>(many({{in_a_lane(a), _mm_setzero_si128()}})); }
   static __m128i many(pair_of_lanes v) { return narrow_row<Tav16s>::narrow(v); }
@@ -78,7 +78,7 @@ class convert_16s8s_down {
 };
 
 template <class Scale> struct convert_16s8s_kernel {
-  static constexpr kernel_shape shape{.vector_from = 15, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   Scale scale;
 

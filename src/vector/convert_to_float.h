@@ -56,7 +56,7 @@ template <class R, int K> TAV_INLINE several<R, K> times(several<R, K> floats, R
 // Small signed integers become singles by way of the upper bits: a product takes the place of the shift that would
 // extend the sign, exact as that, and measured a fifth faster.
 template <class S, class F> struct to_floats : types<S, S, F> {
-  static constexpr kernel_shape shape{.vector_from = 11, .round_bytes = 64, .step = lanes<S>};
+  static constexpr kernel_shape shape{.round_bytes = 64, .step = lanes<S>};
   static constexpr bool         from_the_top = std::is_signed_v<S> && sizeof(S) < 4 && sizeof(F) == 4;
 
   static F    one(S a) { return F(a); }

@@ -65,7 +65,7 @@ template <class F> struct value_scaled_and_raised {  // by a half, away from zer
 };
 
 template <class F, class D, class Value> struct to_integers_kernel {
-  static constexpr kernel_shape shape{.vector_from = 15, .round_bytes = sizeof(D) == 1 ? 16 : 32};
+  static constexpr kernel_shape shape{.round_bytes = sizeof(D) == 1 ? 16 : 32};
 
   Value value;
 

@@ -5,7 +5,7 @@ namespace tav::TAV_VARIANT {
 
 // Each element twice in a lane of the double width, the upper one kept.
 struct convert_8s16s : types<Tav8s, Tav8s, Tav16s> {
-  static constexpr kernel_shape shape{.vector_from = 15, .round_bytes = 32, .step = 16};
+  static constexpr kernel_shape shape{.round_bytes = 32, .step = 16};
 
   static Tav16s        one(Tav8s a) { return a; }
   static pair_of_lanes many(__m128i v) {
@@ -14,7 +14,7 @@ struct convert_8s16s : types<Tav8s, Tav8s, Tav16s> {
 };
 
 struct convert_16s32s : types<Tav16s, Tav16s, Tav32s> {
-  static constexpr kernel_shape shape{.vector_from = 11, .round_bytes = 32, .step = 8};
+  static constexpr kernel_shape shape{.round_bytes = 32, .step = 8};
 
   static Tav32s        one(Tav16s a) { return a; }
   static pair_of_lanes many(__m128i v) { return narrow_row<Tav16s>::widen(v); }

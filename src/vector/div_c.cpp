@@ -37,7 +37,7 @@ class over_constant {
 };
 
 template <class T, class Unit> struct quotients_by {
-  static constexpr kernel_shape shape{.vector_from = 15, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   Unit unit;
 

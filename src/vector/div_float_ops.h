@@ -14,7 +14,7 @@ TavStatus divided(const typename Op::src1* src1, const typename Op::src2* src2, 
 }
 
 struct quotients_32f : types<Tav32f, Tav32f, Tav32f> {
-  static constexpr kernel_shape shape{.vector_from = 11, .round_bytes = 32, .stream_above = 0x2AAA};
+  static constexpr kernel_shape shape{.round_bytes = 32, .stream_above = 0x2AAA};
 
   __m128 zeros = _mm_setzero_ps();
 
@@ -34,7 +34,7 @@ struct zeros_in_double {
 };
 
 struct quotients_64f : types<Tav64f, Tav64f, Tav64f>, zeros_in_double {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   TAV_INLINE Tav64f  one(Tav64f b, Tav64f a) { return _mm_cvtsd_f64(many(_mm_set1_pd(b), _mm_set1_pd(a))); }
   TAV_INLINE __m128d many(__m128d b, __m128d a) {
@@ -62,7 +62,7 @@ struct complex_quotient : zeros_in_double {
 };
 
 struct quotients_64fc : types<Tav64fc, Tav64fc, Tav64fc>, complex_quotient {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   TAV_INLINE Tav64fc one(Tav64fc b, Tav64fc a) {
     Tav64fc q;
@@ -74,7 +74,7 @@ struct quotients_64fc : types<Tav64fc, Tav64fc, Tav64fc>, complex_quotient {
 
 // In double precision inside, so that no square leaves the range.
 struct quotients_32fc : types<Tav32fc, Tav32fc, Tav32fc>, complex_quotient {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   TAV_INLINE Tav32fc one(Tav32fc b, Tav32fc a) {
     const __m128 q = _mm_cvtpd_ps(of(_mm_setr_pd(b.re, b.im), _mm_setr_pd(a.re, a.im)));

@@ -110,7 +110,7 @@ template <class D> TAV_INLINE D not_below_range(int q) { return D(q < quads<D>::
 
 // B / A in elements D.
 template <class A, class B, class D, class Unit> struct quotients : types<A, B, D> {
-  static constexpr kernel_shape shape{.vector_from = sizeof(D) == 4 ? 7 : 15, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
   static constexpr int          highest = quads<D>::highest;
 
   Unit      unit;
@@ -135,7 +135,7 @@ template <class A, class B, class D, class Unit> struct quotients : types<A, B, 
 // (ar + i ai) / (br + i bi) = (ar br + ai bi + i (ai br - ar bi)) / (br^2 + bi^2); both numerators are exact. Over a
 // zero divisor the parts of the dividend stand alone: over 1, as far as the numerators go, and over next to nothing.
 struct quotients_16sc : types<Tav16sc, Tav16sc, Tav16sc> {
-  static constexpr kernel_shape shape{.vector_from = 15, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
   static constexpr int          highest = INT16_MAX;
 
   in_double unit;

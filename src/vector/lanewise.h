@@ -4,11 +4,8 @@
 //
 // An operation is called with a register of each source.
 #pragma once
-#include "frame/registers.h"
+#include "frame/kernel_shape.h"
 #include "vector/byte_engine.h"
-
-// A function that is not to be inlined, so that its registers burden nobody else.
-#define TAV_APART __attribute__((noinline))
 
 namespace tav::TAV_VARIANT {
 
@@ -53,9 +50,9 @@ TAV_INLINE TavStatus from_ends(const Op& op, Tav8u* dst, size_t n, S... src) {
   return tavStatusOk;
 }
 
-// Arrays up to so many bytes go by in_short, others by in_long. Let in_long have a function of its own with the same
-// arguments, which is reached by a jump, so that short arrays pay nothing for it.
-inline constexpr size_t short_bytes = 64;
+// Arrays up to so many bytes go by in_short, long ones by in_long, others by in_medium. Let each have a function of its
+// own with the same arguments, which is reached by a jump, so that shorter arrays pay nothing for it.
+inline constexpr size_t short_bytes = 64, medium_bytes = 1024;
 
 template <class Op, class... S> TAV_INLINE TavStatus in_short(const Op& op, Tav8u* dst, size_t n, S... src) {
   if (n > 32) return from_ends<16, 2>(op, dst, n, src...);
@@ -72,12 +69,13 @@ template <access Store, class Op, class... S> TAV_INLINE void rounds(const Op& o
   constexpr size_t round_bytes = 64, bytes_ahead = 256;
   const auto       step = [&](size_t at) { store_bits<Store>(dst + at, op(load_part<16>(src + at)...)); };
   size_t           at   = 0;
-  for (; n - at >= round_bytes; at += round_bytes) {
+  for (const size_t end = (n - 1) / round_bytes * round_bytes; at != end; at += round_bytes) {
     if constexpr (Store == access::streaming)
       (_mm_prefetch(reinterpret_cast<const char*>(src + at) + bytes_ahead, _MM_HINT_T0), ...);
     step(at), step(at + 16), step(at + 32), step(at + 48);
   }
-  for (; n - at > 16; at += 16) step(at);
+  if (n - at > 32) step(at), step(at + 16), at += 32;
+  if (n - at > 16) step(at);
 }
 
 // The stores of a large result bypass the cache, as those of a copy do, unless its lines are there as a source's.
@@ -88,17 +86,36 @@ template <class... S> TAV_INLINE bool bypasses_cache(const Tav8u* dst, size_t n,
 // Bytes from dst to the next 16-byte boundary.
 TAV_INLINE size_t to_boundary(const Tav8u* dst) { return -reinterpret_cast<uintptr_t>(dst) & 15; }
 
-// For elements of so many bytes. `middle` is the operation to use from to_boundary(dst) on.
-template <size_t Width, class Op, class... S>
+// Whether an array of elements of Width bytes is long: up to medium_bytes the boundary is not worth its while, and a
+// dst that is not on its element size has none.
+template <size_t Width> TAV_INLINE bool is_long(const void* dst, size_t n) {
+  return n > medium_bytes && reinterpret_cast<uintptr_t>(dst) % Width == 0;
+}
+
+// An operation as the element-wise shape sees it, over bytes.
+template <class Op> struct over_bytes {
+  static constexpr kernel_shape shape{.round_bytes = 32};
+
+  Op op;
+
+  template <class... R> __m128i many(R... r) const { return op(r...); }
+};
+
+template <class Op, class... S> TAV_INLINE TavStatus in_medium(const Op& op, Tav8u* dst, size_t n, S... src) {
+  const over_bytes<Op> over{op};
+  to_end<access::unaligned>(over, dst, 0, n, src...);
+  return tavStatusOk;
+}
+
+// `middle` is the operation to use from to_boundary(dst) on.
+template <class Op, class... S>
 TAV_INLINE TavStatus in_long(const Op& op, const Op& middle, Tav8u* dst, size_t n, S... src) {
   const bool    bypasses = bypasses_cache(dst, n, src...);
   const __m128i first = op(load_part<16>(src)...), last = op(load_part<16>(src + n - 16)...);
   Tav8u* const  start = dst;
   Tav8u* const  end   = dst + n - 16;
   const size_t  head  = to_boundary(dst);
-  if (head % Width != 0) {  // dst is not on its element size, and no head can bring it to a boundary
-    rounds<access::unaligned>(op, dst, n, src...);
-  } else if (bypasses) {
+  if (bypasses) {
     rounds<access::streaming>(middle, dst + head, n - head, src + head...);
     _mm_sfence();
   } else {

@@ -9,11 +9,16 @@
 namespace tav::shared {
 
 template <class Op> TAV_APART TavStatus combine_long(const void* src1, const void* src2, void* dst, size_t n) {
-  return in_long<1>(Op{}, Op{}, bytes(dst), n, bytes(src1), bytes(src2));
+  return in_long(Op{}, Op{}, bytes(dst), n, bytes(src1), bytes(src2));
+}
+
+template <class Op> TAV_APART TavStatus combine_medium(const void* src1, const void* src2, void* dst, size_t n) {
+  if (is_long<1>(dst, n)) return combine_long<Op>(src1, src2, dst, n);
+  return in_medium(Op{}, bytes(dst), n, bytes(src1), bytes(src2));
 }
 
 template <class Op> TavStatus combine(const void* src1, const void* src2, void* dst, size_t n) {
-  if (n > short_bytes) return combine_long<Op>(src1, src2, dst, n);
+  if (n > short_bytes) return combine_medium<Op>(src1, src2, dst, n);
   return in_short(Op{}, bytes(dst), n, bytes(src1), bytes(src2));
 }
 
@@ -29,11 +34,16 @@ template <class Op> struct with {
 
 template <class Op> TAV_APART TavStatus combine_with_long(const void* src, void* dst, size_t n, Tav32u word) {
   const Tav32u from_boundary = std::rotr(word, 8 * int(to_boundary(bytes(dst)) % 4));
-  return in_long<1>(with<Op>(word), with<Op>(from_boundary), bytes(dst), n, bytes(src));
+  return in_long(with<Op>(word), with<Op>(from_boundary), bytes(dst), n, bytes(src));
+}
+
+template <class Op> TAV_APART TavStatus combine_with_medium(const void* src, void* dst, size_t n, Tav32u word) {
+  if (is_long<1>(dst, n)) return combine_with_long<Op>(src, dst, n, word);
+  return in_medium(with<Op>(word), bytes(dst), n, bytes(src));
 }
 
 template <class Op> TavStatus combine_with(const void* src, void* dst, size_t n, Tav32u word) {
-  if (n > short_bytes) return combine_with_long<Op>(src, dst, n, word);
+  if (n > short_bytes) return combine_with_medium<Op>(src, dst, n, word);
   return in_short(with<Op>(word), bytes(dst), n, bytes(src));
 }
 

@@ -8,7 +8,7 @@
 namespace tav::TAV_VARIANT {
 
 template <class T, class Scale> struct long_sum {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
   using D = typename T::type;
 
   Scale scale;

@@ -7,7 +7,7 @@ namespace tav::TAV_VARIANT {
 namespace {
 
 template <class Root> struct magnitudes_16s {
-  static constexpr kernel_shape shape{.vector_from = 15, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   Root root;
 

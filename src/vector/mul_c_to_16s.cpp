@@ -7,7 +7,7 @@ namespace tav::TAV_VARIANT {
 // Limited before the conversion. The minimum comes first and with the limit as its second operand, which is what it
 // gives for a NaN: 32767.
 struct limited_product : types<Tav32f, Tav32f, Tav16s> {
-  static constexpr kernel_shape shape{.vector_from = 23, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   explicit limited_product(Tav32f v) : all(_mm_set1_ps(v)) {}
 
@@ -26,7 +26,7 @@ struct limited_product : types<Tav32f, Tav32f, Tav16s> {
 
 // Converted as it is, and packed. What no 32-bit integer can hold, of either sign, converts to the lowest one.
 struct packed_product : types<Tav32f, Tav32f, Tav16s> {
-  static constexpr kernel_shape shape{.vector_from = 23, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   explicit packed_product(Tav32f v) : all(_mm_set1_ps(v)) {}
 

@@ -98,7 +98,7 @@ template <class Op> struct narrow_up {
 
 // An operation and a scale, seen by the element-wise shape as one operation.
 template <class Op, class Scale> struct narrow_kernel {
-  static constexpr kernel_shape shape{.vector_from = 15, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
   Op                            op;
   Scale                         scale;
 

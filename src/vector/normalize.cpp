@@ -8,7 +8,7 @@ namespace tav::TAV_VARIANT {
 
 // Floats, in the caller's rounding mode.
 template <class T> struct normalized {
-  static constexpr kernel_shape shape{.vector_from = 16 / sizeof(part_of<T>) + 4, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   T          less;
   part_of<T> times;
@@ -40,7 +40,7 @@ template <class T> TavStatus normalize(const T* src, T* dst, int len, T vSub, pa
 
 // 16-bit integers: an exact difference times a single that holds the divisor and the scale, to nearest.
 template <class T> struct normalized_words {
-  static constexpr kernel_shape shape{.vector_from = 15, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   T       less;
   Tav32f  times;

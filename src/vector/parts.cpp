@@ -17,9 +17,7 @@ template <class C> TavStatus taken_apart(const C* src, part_of<C>* dstRe, part_o
 }
 
 // A register of each part makes two of pairs.
-template <class C>
-inline constexpr kernel_shape shape_of_pairs{
-    .vector_from = lanes<part_of<C>> == 8 ? 15 : 8, .round_bytes = 64, .step = lanes<part_of<C>>};
+template <class C> inline constexpr kernel_shape shape_of_pairs{.round_bytes = 64, .step = lanes<part_of<C>>};
 
 template <class C> struct joined_parts {
   using P                             = part_of<C>;

@@ -38,8 +38,7 @@ TAV_INLINE several<__m128d, 2> in_pairs(__m128d re, __m128d im) {
   return {{_mm_unpacklo_pd(re, im), _mm_unpackhi_pd(re, im)}};
 }
 
-template <class P>
-inline constexpr kernel_shape shape_of_parts{.vector_from = lanes<P> == 8 ? 15 : 8, .round_bytes = 32};
+template <class P> inline constexpr kernel_shape shape_of_parts{.round_bytes = 32};
 
 template <class C> struct real_part : types<C, C, part_of<C>> {
   static constexpr kernel_shape shape = shape_of_parts<part_of<C>>;

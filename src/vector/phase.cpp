@@ -44,14 +44,14 @@ template <class F> TAV_INLINE reg<F> angle_apart(points<F> p) { return arctangen
 
 // As floats, of S: a coordinate or a pair.
 template <class S, class F> struct phase_of_floats : types<S, S, F> {
-  static constexpr kernel_shape shape{.vector_from = 4, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   static F                 one(auto... s) { return angle_apart(points_of(alone<lanes<F>>(s)...))[0]; }
   TAV_INLINE static reg<F> many(auto... r) { return angle(points_of(r...)); }
 };
 
 template <class S> struct phase_of_words : types<S, S, Tav32f> {
-  static constexpr kernel_shape shape{.vector_from = 4, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   static Tav32f            one(auto... s) { return angle_apart(points_of_words(alone<4>(s)...))[0]; }
   TAV_INLINE static __m128 many(auto... r) { return angle(points_of_words(r...)); }
@@ -95,7 +95,7 @@ class angle_in_words {
 };
 
 template <class S> struct phase_in_words : types<S, S, Tav16s> {
-  static constexpr kernel_shape shape{.vector_from = 7, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   // From -29 on there are only limits and zeros, although the smallest angles would fit.
   static constexpr int last_factor = -28, factor_of_limits = -40;
@@ -117,7 +117,7 @@ template <class S> struct phase_in_words : types<S, S, Tav16s> {
 
 // The same in 32 bits, of 32-bit coordinates.
 struct phase_in_long_words : types<Tav32sc, Tav32sc, Tav32s> {
-  static constexpr kernel_shape shape{.vector_from = 4, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   static constexpr int last_factor = -64, factor_of_limits = -64;
 

@@ -60,11 +60,16 @@ struct signed_right_32 : by_count {
 
 template <class Op> TAV_APART TavStatus shift_long(const void* src, void* dst, size_t n, int count) {
   const Op op(count);
-  return in_long<sizeof(typename Op::element)>(op, op, bytes(dst), n, bytes(src));
+  return in_long(op, op, bytes(dst), n, bytes(src));
+}
+
+template <class Op> TAV_APART TavStatus shift_medium(const void* src, void* dst, size_t n, int count) {
+  if (is_long<sizeof(typename Op::element)>(dst, n)) return shift_long<Op>(src, dst, n, count);
+  return in_medium(Op(count), bytes(dst), n, bytes(src));
 }
 
 template <class Op> TAV_APART TavStatus shift(const void* src, void* dst, size_t n, int count) {
-  if (n > short_bytes) return shift_long<Op>(src, dst, n, count);
+  if (n > short_bytes) return shift_medium<Op>(src, dst, n, count);
   return in_short(Op(count), bytes(dst), n, bytes(src));
 }
 

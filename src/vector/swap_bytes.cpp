@@ -5,7 +5,7 @@
 namespace tav::TAV_VARIANT {
 
 struct swap_16u : types<Tav16u, Tav16u, Tav16u> {
-  static constexpr kernel_shape shape{.vector_from = 16, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav16u  one(Tav16u a) { return __builtin_bswap16(a); }
   static __m128i many(__m128i a) {
@@ -14,7 +14,7 @@ struct swap_16u : types<Tav16u, Tav16u, Tav16u> {
 };
 
 struct swap_32u : types<Tav32u, Tav32u, Tav32u> {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav32u  one(Tav32u a) { return __builtin_bswap32(a); }
   static __m128i many(__m128i a) {
@@ -23,7 +23,7 @@ struct swap_32u : types<Tav32u, Tav32u, Tav32u> {
 };
 
 struct swap_64u : types<Tav64u, Tav64u, Tav64u> {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav64u  one(Tav64u a) { return __builtin_bswap64(a); }
   static __m128i many(__m128i a) {

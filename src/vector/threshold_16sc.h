@@ -19,7 +19,7 @@ template <side Side> class square_limit {
 };
 
 template <side Side> struct replaced<Tav16sc, Side> : on_magnitudes<Tav16sc, callers_mode, Tav16s, Tav16sc> {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
 
   replaced(Tav16s level, Tav16sc value) : limit_(level), value_(all(value)) {}
   __m128i many(__m128i x) const { return selected(limit_.fails(x), value_, x); }
@@ -53,7 +53,7 @@ inline Tav16s scaled_exactly(Tav16s part, Tav32u square, Tav16s level) {
 }
 
 template <side Side> struct clipped<Tav16sc, Side> : on_magnitudes<Tav16sc, round_to_nearest_masked, Tav16s> {
-  static constexpr kernel_shape shape{.vector_from = 4, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   explicit clipped(Tav16s level) : limit_(level), level_(level), level_in_double_(_mm_set1_pd(level)) {}
 

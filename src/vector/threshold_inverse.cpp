@@ -20,7 +20,7 @@ TAV_INLINE __m128d is_zero(__m128d v) { return _mm_cmpeq_pd(v, _mm_setzero_pd())
 template <class T> struct inverse;
 
 template <real_float T> struct inverse<T> : on_magnitudes<T, callers_mode_masked, T>, warning {
-  static constexpr kernel_shape shape{.vector_from = 8, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   explicit inverse(T level) : raised_(level) {}
 

@@ -10,10 +10,9 @@ concept real = !requires(T v) {
   v.re;
 };
 
-template <class T>
-inline constexpr kernel_shape             real_shape{.vector_from = float_shape<T>.vector_from, .round_bytes = 32};
-template <> inline constexpr kernel_shape real_shape<Tav16s> = shape_16_bit;
-template <> inline constexpr kernel_shape real_shape<Tav32s> = shape_32_bit;
+template <class T> inline constexpr kernel_shape real_shape{.round_bytes = 32};
+template <> inline constexpr kernel_shape        real_shape<Tav16s> = shape_16_bit;
+template <> inline constexpr kernel_shape        real_shape<Tav32s> = shape_32_bit;
 
 template <class T> TAV_INLINE reg<T> all(T v) { return from_bits<T>(repeated(v)); }
 

@@ -9,8 +9,8 @@ namespace tav::TAV_VARIANT::thresholds {
 using two_pairs = several<__m128d, 2>;
 
 // A scalar loop of costly pairs is short.
-template <class T> inline constexpr kernel_shape pair_shape{.vector_from = 2, .round_bytes = 16};
-template <> inline constexpr kernel_shape        pair_shape<Tav64fc>{.vector_from = 2, .round_bytes = 32, .step = 2};
+template <class T> inline constexpr kernel_shape pair_shape{.round_bytes = 16};
+template <> inline constexpr kernel_shape        pair_shape<Tav64fc>{.round_bytes = 32, .step = 2};
 
 TAV_INLINE two_pairs in_double(__m128 x) { return {{_mm_cvtps_pd(x), _mm_cvtps_pd(_mm_movehl_ps(x, x))}}; }
 TAV_INLINE two_pairs in_double(two_pairs x) { return x; }

@@ -6,7 +6,7 @@
 
 namespace tav::TAV_VARIANT {
 
-inline constexpr kernel_shape wide_shape{.vector_from = 7, .round_bytes = 16};
+inline constexpr kernel_shape wide_shape{.round_bytes = 16};
 
 template <class T> TAV_INLINE __m128i in_a_lane(T v) { return load_low<sizeof(T)>(&v); }
 template <class T> TAV_INLINE T       from_a_lane(__m128i v) {

@@ -9,7 +9,7 @@
 
 namespace test {
 
-inline std::set<int> threshold_lengths() { return lengths_around({200}, 100); }
+inline std::set<int> threshold_lengths() { return lengths_around({600}, 100); }
 
 // dst[i] = one(src[i], arguments...), apart, onto itself, and by the form in place. `draw(data)` gives a tuple of the
 // arguments behind the length; `status(src, arguments...)` what the call returns.

@@ -6,7 +6,7 @@
 namespace tav::TAV_VARIANT::iir {
 
 struct singles_as_doubles : types<Tav32f, Tav32f, Tav64f> {
-  static constexpr kernel_shape shape{.vector_from = 7, .round_bytes = 32, .step = 4};
+  static constexpr kernel_shape shape{.round_bytes = 32, .step = 4};
 
   static Tav64f              one(Tav32f a) { return a; }
   static several<__m128d, 2> many(__m128 v) { return {{_mm_cvtps_pd(v), _mm_cvtps_pd(_mm_movehl_ps(v, v))}}; }

@@ -29,7 +29,7 @@ TAV_INLINE int cut_off_one(float v, float lowest, float highest) {
 }
 
 template <class F, class D> struct to_integers : types<F, F, D> {
-  static constexpr kernel_shape shape{.vector_from = 11, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
   static constexpr F            lowest = sizeof(D) == 2 ? F(-32768) : F(-2147483648.0),
                      highest           = sizeof(D) == 2 ? F(32767) : F(2147483647.0);
 
@@ -54,7 +54,7 @@ template <class F, class D> struct to_integers : types<F, F, D> {
 };
 
 struct doubles_as_singles : types<Tav64f, Tav64f, Tav32f> {
-  static constexpr kernel_shape shape{.vector_from = 7, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 
   // Spelled out: a double that a function has returned on 32 bits may be narrowed in another unit, with its own mode.
   static Tav32f one(Tav64f a) { return _mm_cvtss_f32(_mm_cvtsd_ss(_mm_setzero_ps(), _mm_set_sd(a))); }

@@ -13,7 +13,7 @@ enum class sort_order { ascending, descending };
 // What the engine compares: lanes with a sign, or elements of 8 and 16 bits that it widens without one.
 enum class key_lanes { with_sign, widened };
 
-template <class T> inline constexpr kernel_shape key_shape{.vector_from = lanes<T>, .round_bytes = 16};
+template <class T> inline constexpr kernel_shape key_shape{.round_bytes = 16};
 
 // Integers by the change of some bits.
 template <class T, T Bits> struct flipped_key_bits {

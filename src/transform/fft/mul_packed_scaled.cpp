@@ -29,7 +29,7 @@ struct shifted_down_16s {
 };
 
 template <class Scale> struct scaled_pairs : narrow_kernel<complex_product, Scale> {
-  static constexpr kernel_shape shape{.vector_from = 4, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
 };
 
 template <class Format> struct scaled_spectra {

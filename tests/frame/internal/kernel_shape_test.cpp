@@ -1,5 +1,5 @@
 // The element-wise shape by itself, on made-up operations: every number of sources, wider and narrower ones, warnings,
-// the head, the rounds, the tail and the streaming limit.
+// short and long arrays, the first vector and the last, and the streaming limit.
 #include "frame/kernel_shape.h"
 
 #include <gtest/gtest.h>
@@ -11,29 +11,28 @@ using namespace test;
 namespace tav::TAV_VARIANT {
 namespace {
 
-constexpr int threshold = 15, streamed_rounds = 6;
+constexpr int streamed_rounds = 6;
 
 template <int RoundBytes> struct xor_8u {
-  static constexpr kernel_shape shape{
-      .vector_from = threshold, .round_bytes = RoundBytes, .stream_above = streamed_rounds};
-  static Tav8u   one(Tav8u a) { return Tav8u(a ^ 0x5A); }
-  static __m128i many(__m128i a) { return _mm_xor_si128(a, _mm_set1_epi8(0x5A)); }
+  static constexpr kernel_shape shape{.round_bytes = RoundBytes, .stream_above = streamed_rounds};
+  static Tav8u                  one(Tav8u a) { return Tav8u(a ^ 0x5A); }
+  static __m128i                many(__m128i a) { return _mm_xor_si128(a, _mm_set1_epi8(0x5A)); }
 };
 
 struct sum_of_three_32u {
-  static constexpr kernel_shape shape{.vector_from = threshold, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
   static Tav32u                 one(Tav32u a, Tav32u b, Tav32u c) { return a + b + c; }
   static __m128i                many(__m128i a, __m128i b, __m128i c) { return _mm_add_epi32(_mm_add_epi32(a, b), c); }
 };
 
 struct widen_8u16u {
-  static constexpr kernel_shape shape{.vector_from = threshold, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
   static Tav16u                 one(Tav8u a) { return a; }
   static __m128i                many(__m128i a) { return _mm_unpacklo_epi8(a, _mm_setzero_si128()); }
 };
 
 struct widen_8u16u_by_registers {  // a whole register of bytes makes two of words
-  static constexpr kernel_shape shape{.vector_from = threshold, .round_bytes = 32, .step = 16};
+  static constexpr kernel_shape shape{.round_bytes = 32, .step = 16};
   static Tav16u                 one(Tav8u a) { return a; }
   static several<__m128i, 2>    many(__m128i a) {
        const __m128i zero = _mm_setzero_si128();
@@ -42,7 +41,7 @@ struct widen_8u16u_by_registers {  // a whole register of bytes makes two of wor
 };
 
 struct widen_8u32u {
-  static constexpr kernel_shape shape{.vector_from = threshold, .round_bytes = 64};
+  static constexpr kernel_shape shape{.round_bytes = 64};
   static Tav32u                 one(Tav8u a) { return a; }
   static __m128i                many(__m128i a) {
                    const __m128i zero = _mm_setzero_si128();
@@ -51,7 +50,7 @@ struct widen_8u32u {
 };
 
 struct widen_8s64f {  // two bytes feed a register of doubles
-  static constexpr kernel_shape shape{.vector_from = threshold, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
   static Tav64f                 one(Tav8s a) { return a; }
   static __m128d                many(__m128i a) {
                    a = _mm_unpacklo_epi8(a, a);
@@ -61,7 +60,7 @@ struct widen_8s64f {  // two bytes feed a register of doubles
 };
 
 struct narrow_32u8u {  // four registers make one
-  static constexpr kernel_shape shape{.vector_from = threshold, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
   static Tav8u                  one(Tav32u a) { return Tav8u(a); }
   static __m128i                many(several<__m128i, 4> a) {
                    const __m128i low = _mm_set1_epi32(0xFF);
@@ -71,7 +70,7 @@ struct narrow_32u8u {  // four registers make one
 };
 
 struct mixed_64f32f {  // a wider and a narrower source
-  static constexpr kernel_shape shape{.vector_from = threshold, .round_bytes = 16};
+  static constexpr kernel_shape shape{.round_bytes = 16};
   static Tav32f                 one(Tav64f a, Tav16u b) { return Tav32f(a) + Tav32f(b); }
   static __m128                 many(several<__m128d, 2> a, __m128i b) {
                     const __m128 wide = _mm_movelh_ps(_mm_cvtpd_ps(a.r[0]), _mm_cvtpd_ps(a.r[1]));
@@ -80,13 +79,13 @@ struct mixed_64f32f {  // a wider and a narrower source
 };
 
 struct sum_of_pairs_32fc {
-  static constexpr kernel_shape shape{.vector_from = threshold, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
   static Tav32fc                one(Tav32fc a, Tav32fc b) { return {a.re + b.re, a.im + b.im}; }
   static __m128                 many(__m128 a, __m128 b) { return _mm_add_ps(a, b); }
 };
 
 struct warn_of_zero_16u {
-  static constexpr kernel_shape shape{.vector_from = threshold, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
   bool                          met      = false;
   __m128i                       met_many = _mm_setzero_si128();
 
@@ -103,7 +102,7 @@ struct warn_of_zero_16u {
 
 // The shape runs without an export: these two stand in for the switch of builds.
 template <class D, class... S, class Run, class Expected> void check_shape(const Run& run, const Expected& expected) {
-  const auto lengths = lengths_around({threshold, 200, 1000});
+  const auto lengths = lengths_around({16, 200, int(short_array / sizeof(D)), 1100});
   check_layouts<&::tavsAdd_32f, D, S...>(
       lengths, [&](D* dst, int len, const S*... src) { return run(dst, size_t(len), src...); }, expected);
 }
@@ -139,6 +138,12 @@ TEST(KernelShape, InPlace) {
                      [](std::vector<Tav8u>& v) { return definition_of<xor_8u<32>>()(v, std::vector(v)); });
 }
 
+TEST(KernelShape, DestinationIsTheSource) {
+  check_shape<Tav8u>(
+      [](Tav8u* p, size_t len) { return elementwise(xor_8u<32>{}, p, len, static_cast<const Tav8u*>(p)); },
+      [](std::vector<Tav8u>& v) { return definition_of<xor_8u<32>>()(v, std::vector(v)); });
+}
+
 TEST(KernelShape, InPlaceWithTwoSources) {
   check_shape<Tav32u, Tav32u, Tav32u>(
       [](Tav32u* p, size_t len, const Tav32u* a, const Tav32u* b) {
@@ -147,7 +152,7 @@ TEST(KernelShape, InPlaceWithTwoSources) {
       [](auto& v, const auto& a, const auto& b) { return definition_of<sum_of_three_32u>()(v, a, std::vector(v), b); });
 }
 
-// One element warns, wherever it stands: head, rounds, steps or tail.
+// One element warns, wherever it stands.
 TEST(KernelShape, Warnings) {
   arena home(4096);
   for (int len = 1; len <= 100; ++len)
@@ -164,26 +169,28 @@ TEST(KernelShape, Warnings) {
       }
 }
 
-// Where each part of an array is computed, by the head, the rounds and the limits.
+// By which of the two each element is computed, and how many vectors are.
 struct watched {
-  static constexpr kernel_shape shape{.vector_from = threshold, .round_bytes = 32};
+  static constexpr kernel_shape shape{.round_bytes = 32};
+  int*                          vectors;
   Tav32u                        one(Tav32u) { return 1; }
-  __m128i                       many(__m128i) { return _mm_set1_epi32(4); }
+  __m128i                       many(__m128i) { return ++*vectors, _mm_set1_epi32(4); }
 };
 
-TEST(KernelShape, HeadReachesTheBoundaryAndTheTailIsShort) {
-  alignas(16) Tav32u block[64];
-  for (unsigned offset = 0; offset < 4; ++offset)
-    for (int len = 1; len <= 40; ++len) {
-      elementwise(watched{}, block + offset, size_t(len), self{});
-      const int head = len < threshold ? len : int(-offset & 3), vectors = len < threshold ? 0 : (len - head) / 4 * 4;
-      for (int i = 0; i < len; ++i)
-        ASSERT_EQ(block[offset + unsigned(i)], i >= head && i < head + vectors ? 4u : 1u)
-            << offset << ' ' << len << ' ' << i;
+TEST(KernelShape, VectorsAloneFromOneVectorOn) {
+  constexpr int      longest = 300, at_boundary = 1;
+  alignas(16) Tav32u block[longest + 8];
+  for (unsigned byte = 0; byte < 16; ++byte)
+    for (int len = 1; len <= longest; ++len) {
+      auto* const dst     = reinterpret_cast<Tav32u*>(reinterpret_cast<char*>(block) + byte);
+      int         vectors = 0;
+      elementwise(watched{&vectors}, dst, size_t(len), self{});
+      for (int i = 0; i < len; ++i) ASSERT_EQ(peek(dst + i), len < 4 ? 1u : 4u) << byte << ' ' << len << ' ' << i;
+      const bool is_long = size_t(len) > short_array / sizeof(Tav32u) && byte % sizeof(Tav32u) == 0;
+      const int  least   = len < 4 ? 0 : (len + 3) / 4;
+      ASSERT_GE(vectors, least) << byte << ' ' << len;
+      ASSERT_LE(vectors, least + (is_long ? at_boundary : 0)) << byte << ' ' << len;
     }
-  auto* const odd = reinterpret_cast<Tav32u*>(reinterpret_cast<char*>(block) + 2);
-  elementwise(watched{}, odd, 16, self{});
-  for (int i = 0; i < 16; ++i) ASSERT_EQ(peek(odd + i), 4u) << "no head off the element size";
 }
 
 }  // namespace
