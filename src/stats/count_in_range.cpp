@@ -19,7 +19,7 @@ class elements_in_range {
   static __m128i start() { return _mm_setzero_si128(); }
   void           many(__m128i& p, __m128i v) const {
               const __m128i from_first = _mm_sub_epi32(v, _mm_set1_epi32(int(first_)));
-              p                        = _mm_sub_epi32(p, _mm_cmpgt_epi32(_mm_set1_epi32(int(end_)), from_first));
+              p = in_register(_mm_sub_epi32(p, _mm_cmpgt_epi32(_mm_set1_epi32(int(end_)), from_first)));
   }
   static void join(__m128i& p, __m128i q) { p = _mm_add_epi32(p, q); }
   static int  total(__m128i p) {

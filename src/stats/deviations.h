@@ -5,10 +5,12 @@
 // deviation a NaN.
 //
 // The sums are made in lanes of the elements' own type, by blocks, or on the extended-precision unit; the formula runs
-// on that unit in either case, and its results are rounded to nearest.
+// on that unit in either case, and its results are rounded to nearest. Where singles come of sums in lanes, doubles
+// nearly always show what that unit would make of them.
 #pragma once
 #include "stats/deviation_forms.h"
 #include "stats/float_sums.h"
+#include "stats/near_moments.h"
 
 namespace tav::TAV_VARIANT {
 
@@ -68,20 +70,44 @@ template <class T> struct lane_differences {
   }
 };
 
-template <class T> auto differences_in_lanes(size_t len, const T* src, T first) {
+template <class T> TAV_INLINE auto differences_in_lanes(size_t len, const T* src, T first) {
   return reduce(lane_differences<T>{from_bits<T>(repeated(first)), first}, len, src);
 }
 
-template <class T> moments<T> moments_in_lanes(size_t len, const T* src) {
+template <class T> [[gnu::noinline]] auto differences_out_of_line(size_t len, const T* src, T first) {
+  return differences_in_lanes(len, src, first);
+}
+
+template <class T> [[gnu::noinline]] moments<T> moments_of_blocks(size_t len, const T* src) {
   const extended_mode scope;
   const T             first = subtracted_from(src);
   difference_sums     d;
   const auto          add = [&](size_t count, const T* block) {
-    const auto sums = differences_in_lanes(count, block, first);
+    const auto sums = differences_out_of_line(count, block, first);
     d.sum += sums.sum, d.squares += sums.squares;
   };
   in_blocks<block_of_singles>(add, len, src);
   return moments_of(first, d, len);
+}
+
+inline moments<Tav64f> moments_in_lanes(size_t len, const Tav64f* src) { return moments_of_blocks(len, src); }
+
+// One block at most, without that unit if the single that it makes of the deviation, and of the mean where that is
+// wanted, is known.
+enum class wanted { deviation, both };
+
+template <wanted What> TAV_INLINE moments<Tav32f> moments_in_lanes(size_t len, const Tav32f* src) {
+  if (len <= block_of_singles) {
+    const Tav32f first = subtracted_from(src);
+    const auto   sums  = differences_in_lanes(len, src, first);
+    if (usual_sse_mode()) {
+      const near_moments near(first, sums.sum, sums.squares, int(len));
+      const bool         both = What == wanted::both;
+      if (near.deviation_is_known() && (!both || near.mean_is_known()))
+        return {both ? Tav32f(near.mean) : 0, Tav32f(near.deviation)};
+    }
+  }
+  return moments_of_blocks(len, src);
 }
 
 // On the extended-precision unit, whose eight registers hold the sums of two elements that take turns, and no more.
@@ -98,8 +124,8 @@ inline moments<Tav32f> accurate_moments(size_t len, const Tav32f* src) {
   return moments_of(first, difference_sums{even.sum + odd.sum, even.squares + odd.squares}, len);
 }
 
-TAV_INLINE moments<Tav32f> moments_by_hint(size_t len, const Tav32f* src, int hint) {
-  return hint == fast_form ? moments_in_lanes(len, src) : accurate_moments(len, src);
+template <wanted What> TAV_INLINE moments<Tav32f> moments_by_hint(size_t len, const Tav32f* src, int hint) {
+  return hint == fast_form ? moments_in_lanes<What>(len, src) : accurate_moments(len, src);
 }
 
 }  // namespace tav::TAV_VARIANT

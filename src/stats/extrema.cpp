@@ -12,34 +12,34 @@ template <class T> using smallest_magnitude = single<magnitude_of<T>, side::smal
 
 }  // namespace extrema
 
-TAV_BIND(Max_16s, &one_array<extrema::largest<Tav16s>>)
-TAV_BIND(Max_32s, &one_array<extrema::largest<Tav32s>>)
-TAV_BIND(Max_32f, &one_array<extrema::largest<Tav32f>>)
-TAV_BIND(Max_64f, &one_array<extrema::largest<Tav64f>>)
+TAV_BIND(Max_16s, &extrema::of_array<extrema::largest<Tav16s>>)
+TAV_BIND(Max_32s, &extrema::of_array<extrema::largest<Tav32s>>)
+TAV_BIND(Max_32f, &extrema::of_array<extrema::largest<Tav32f>>)
+TAV_BIND(Max_64f, &extrema::of_array<extrema::largest<Tav64f>>)
 
 TAV_BIND(MaxIndx_16s, &extrema::single_and_index<extrema::largest<Tav16s>>)
 TAV_BIND(MaxIndx_32s, &extrema::single_and_index<extrema::largest<Tav32s>>)
 TAV_BIND(MaxIndx_32f, &extrema::single_and_index<extrema::largest<Tav32f>>)
 TAV_BIND(MaxIndx_64f, &extrema::single_and_index<extrema::largest<Tav64f>>)
 
-TAV_BIND(Min_16s, &one_array<extrema::smallest<Tav16s>>)
-TAV_BIND(Min_32s, &one_array<extrema::smallest<Tav32s>>)
-TAV_BIND(Min_32f, &one_array<extrema::smallest<Tav32f>>)
-TAV_BIND(Min_64f, &one_array<extrema::smallest<Tav64f>>)
+TAV_BIND(Min_16s, &extrema::of_array<extrema::smallest<Tav16s>>)
+TAV_BIND(Min_32s, &extrema::of_array<extrema::smallest<Tav32s>>)
+TAV_BIND(Min_32f, &extrema::of_array<extrema::smallest<Tav32f>>)
+TAV_BIND(Min_64f, &extrema::of_array<extrema::smallest<Tav64f>>)
 
 TAV_BIND(MinIndx_16s, &extrema::single_and_index<extrema::smallest<Tav16s>>)
 TAV_BIND(MinIndx_32s, &extrema::single_and_index<extrema::smallest<Tav32s>>)
 TAV_BIND(MinIndx_32f, &extrema::single_and_index<extrema::smallest<Tav32f>>)
 TAV_BIND(MinIndx_64f, &extrema::single_and_index<extrema::smallest<Tav64f>>)
 
-TAV_BIND(MaxAbs_16s, &one_array<extrema::largest_magnitude<Tav16s>>)
-TAV_BIND(MaxAbs_32s, &one_array<extrema::largest_magnitude<Tav32s>>)
+TAV_BIND(MaxAbs_16s, &extrema::of_array<extrema::largest_magnitude<Tav16s>>)
+TAV_BIND(MaxAbs_32s, &extrema::of_array<extrema::largest_magnitude<Tav32s>>)
 
 TAV_BIND(MaxAbsIndx_16s, &extrema::single_and_index<extrema::largest_magnitude<Tav16s>>)
 TAV_BIND(MaxAbsIndx_32s, &extrema::single_and_index<extrema::largest_magnitude<Tav32s>>)
 
-TAV_BIND(MinAbs_16s, &one_array<extrema::smallest_magnitude<Tav16s>>)
-TAV_BIND(MinAbs_32s, &one_array<extrema::smallest_magnitude<Tav32s>>)
+TAV_BIND(MinAbs_16s, &extrema::of_array<extrema::smallest_magnitude<Tav16s>>)
+TAV_BIND(MinAbs_32s, &extrema::of_array<extrema::smallest_magnitude<Tav32s>>)
 
 TAV_BIND(MinAbsIndx_16s, &extrema::single_and_index<extrema::smallest_magnitude<Tav16s>>)
 TAV_BIND(MinAbsIndx_32s, &extrema::single_and_index<extrema::smallest_magnitude<Tav32s>>)

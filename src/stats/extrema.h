@@ -34,7 +34,7 @@ template <class Order, side Side> struct extreme {
     return Side == side::largest ? Order::larger(best, x) : Order::smaller(best, x);
   }
 
-  static partial start() { return from_bits<element>(repeated(start_key)); }
+  static partial start() { return from_bits<element>(start_lanes(start_key)); }
   static void    many(partial& p, reg<element> x) { p = in_register(better(p, in_register(Order::keys_of(x)))); }
   static void    join(partial& p, partial q) { p = better(p, q); }
   static key     total(partial p) { return lowest_lane<key>(across<8>(p)); }
@@ -133,14 +133,23 @@ template <class Extreme> struct record {
   }
 };
 
-// The element that the key of a whole array stands for. A float that is zero may be either of two, and one that the
-// search started with may be no element at all: these are sought.
+// A float that is zero may be either of two, and one that the search started with may be no element at all: these are
+// sought. Told by the bits, for which no constants have to be read.
+template <class Extreme> TAV_INLINE bool must_be_sought(typename Extreme::key k) {
+  using key = typename Extreme::key;
+  if constexpr (std::is_floating_point_v<key>) {
+    using word      = std::conditional_t<sizeof(key) == 4, uint32_t, uint64_t>;
+    const auto bits = __builtin_bit_cast(word, k);
+    return word(bits << 1) == 0 || bits == __builtin_bit_cast(word, Extreme::start_key);
+  }
+  return false;
+}
+
+// The element that the key of a whole array stands for.
 template <class Extreme>
 TAV_INLINE typename Extreme::element element_of(typename Extreme::key k, size_t len,
                                                 const typename Extreme::element* src) {
-  if constexpr (std::is_floating_point_v<typename Extreme::element>) {
-    if (k == 0 || k == Extreme::start_key) return peek(src + record<Extreme>{k}.place(len, src));
-  }
+  if (must_be_sought<Extreme>(k)) return peek(src + record<Extreme>{k}.place(len, src));
   return Extreme::order::reported(k);
 }
 
@@ -160,16 +169,28 @@ TAV_INLINE typename Extreme::element element_at(typename Extreme::key k, size_t 
 template <class Order, side Side> struct single : extreme<Order, Side> {
   using src1 = typename Order::element;
   using dst  = src1;
-
-  static TAV_INLINE dst of(size_t len, const src1* src) {
-    return element_of<single>(reduce(single{}, len, src), len, src);
-  }
 };
+
+// The search is called at the end and out of line, so that most calls need no stack frame.
+template <class Op>
+[[gnu::noinline]] static TavStatus sought_element(const typename Op::src1* src, size_t len, typename Op::dst* result,
+                                                  typename Op::key k) {
+  poke(result, element_of<Op>(k, len, src));
+  return tavStatusOk;
+}
+
+template <class Op> TAV_INLINE TavStatus of_array(const typename Op::src1* src, int len, typename Op::dst* result) {
+  if (const TavStatus bad = check_vector(len, src, result)) return bad;
+  const auto k = reduce(Op{}, size_t(len), src);
+  if (must_be_sought<Op>(k)) return sought_element<Op>(src, size_t(len), result, k);
+  poke(result, Op::order::reported(k));
+  return tavStatusOk;
+}
 
 // The index is optional.
 template <class Op>
 TAV_INLINE TavStatus single_and_index(const typename Op::src1* src, int len, typename Op::dst* result, int* index) {
-  if (index == nullptr) return one_array<Op>(src, len, result);
+  if (index == nullptr) return of_array<Op>(src, len, result);
   if (const TavStatus bad = check_vector(len, src, result)) return bad;
   const size_t n = size_t(len);
   record<Op>   best;

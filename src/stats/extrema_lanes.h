@@ -4,22 +4,26 @@
 // the element moved into the range it can compare. The key of a magnitude is one less than the magnitude, so that the
 // magnitude of the lowest integer has one, too.
 #pragma once
-#include "frame/registers.h"
+#include "frame/reduce_shape.h"
 
 namespace tav::TAV_VARIANT::extrema {
 
 enum class side { smallest, largest };
 
-// Keeps the compiler from loading a vector once for each of its uses, and from copying a result back and forth.
-template <class R> TAV_INLINE R in_register(R v) {
-  __asm__("" : "+x"(v));
-  return v;
-}
-
-// The same for a result whose operand x stays as it is, so that the result takes the register of the other operand.
-TAV_INLINE __m128i in_register(__m128i v, __m128i x) {
-  __asm__("" : "+x"(v) : "x"(x));
-  return v;
+// A start key in every lane. In 32-bit code made in registers, which would have to find its data first; the keys of
+// doubles have no lower half.
+template <class K> TAV_INLINE __m128i start_lanes(K key) {
+  if constexpr (sizeof(void*) == 8) return repeated(key);
+  uint32_t word = 0;
+  if constexpr (sizeof(K) == 8)
+    word = uint32_t(__builtin_bit_cast(uint64_t, key) >> 32);
+  else if constexpr (sizeof(K) == 4)
+    word = __builtin_bit_cast(uint32_t, key);
+  else
+    word = uint32_t(std::make_unsigned_t<K>(key)) * (sizeof(K) == 2 ? 0x10001 : 0x1010101);
+  __asm__("" : "+r"(word));
+  const __m128i lanes = _mm_set1_epi32(int(word));
+  return sizeof(K) == 8 ? _mm_slli_epi64(lanes, 32) : lanes;
 }
 
 // Keys as the processor compares them: the better one of the best so far and a new one. The order of operands saves the

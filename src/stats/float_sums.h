@@ -34,7 +34,9 @@ template <class T> struct lane_sum_of {
   static void    one(__m128d& sum, T v) { sum = _mm_add_pd(sum, as_lanes(v)); }
 };
 
-template <class T> __m128d sum_in_lanes(size_t len, const T* src) { return reduce(lane_sum_of<T>{}, len, src); }
+template <class T> TAV_INLINE __m128d sum_in_lanes(size_t len, const T* src) {
+  return reduce(lane_sum_of<T>{}, len, src);
+}
 
 template <class T> TAV_INLINE __m128d across(__m128d sums) {
   return has_parts<T> ? sums : _mm_add_sd(sums, _mm_unpackhi_pd(sums, sums));
@@ -52,11 +54,15 @@ template <class T> TAV_INLINE __m128d double_sum(size_t len, const T* src) { ret
 // Singles lose precision within a block only. A sum of one block does not need the extended-precision unit.
 inline constexpr size_t block_of_singles = 0x8000;
 
+template <class T> [[gnu::noinline]] __m128d sum_of_one_block(size_t len, const T* src) {
+  return sum_in_lanes(len, src);
+}
+
 template <class T> __m128d sum_of_blocks_of_singles(size_t len, const T* src) {
   const extended_mode scope;
   extended            even = 0, odd = 0;
   const auto          add = [&](size_t count, const T* block) {
-    const Tav64fc sums = pair_of_lanes_64f(sum_in_lanes(count, block));
+    const Tav64fc sums = pair_of_lanes_64f(sum_of_one_block(count, block));
     even += sums.re, odd += sums.im;
   };
   in_blocks<block_of_singles>(add, len, src);

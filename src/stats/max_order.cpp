@@ -21,8 +21,11 @@ template <class T> struct bits_of_magnitudes {
   static constexpr reduce_shape shape{.step = lanes<T>, .tail_again = true};
 
   static __m128i start() { return _mm_setzero_si128(); }
-  static void many(__m128i& p, __m128i v) { p = _mm_or_si128(p, sizeof(T) == 2 ? _mm_abs_epi16(v) : _mm_abs_epi32(v)); }
-  static void join(__m128i& p, __m128i q) { p = _mm_or_si128(p, q); }
+  static void    many(__m128i& p, __m128i v) {
+       const __m128i magnitudes = sizeof(T) == 2 ? _mm_abs_epi16(v) : _mm_abs_epi32(v);
+       p                        = in_register(_mm_or_si128(p, magnitudes), magnitudes);
+  }
+  static void   join(__m128i& p, __m128i q) { p = _mm_or_si128(p, q); }
   static Tav32u total(__m128i p) {
     p                = _mm_or_si128(p, _mm_unpackhi_epi64(p, p));
     const Tav32u all = Tav32u(_mm_cvtsi128_si32(_mm_or_si128(p, _mm_srli_epi64(p, 32))));
@@ -48,7 +51,8 @@ template <class T> struct top_of_largest {
 
   static __m128i start() { return _mm_setzero_si128(); }
   static void    many(__m128i& p, reg<T> v) {  // the lanes of lower bits take part, and nobody reads them
-    p = _mm_max_epi16(p, _mm_and_si128(as_bits(v), _mm_set1_epi16(0x7FFF)));
+    const __m128i magnitudes = _mm_and_si128(as_bits(v), _mm_set1_epi16(0x7FFF));
+    p                        = in_register(_mm_max_epi16(p, magnitudes), magnitudes);
   }
   static void join(__m128i& p, __m128i q) { p = _mm_max_epi16(p, q); }
   static int  total(__m128i p) {

@@ -23,7 +23,9 @@ struct moments_of_singles {
   using src1 = Tav32f;
   using dst  = Tav32f;
 
-  static moments<Tav32f> of(size_t len, const Tav32f* src, int hint) { return moments_by_hint(len, src, hint); }
+  static moments<Tav32f> of(size_t len, const Tav32f* src, int hint) {
+    return moments_by_hint<wanted::both>(len, src, hint);
+  }
 };
 
 struct moments_of_doubles {

@@ -73,7 +73,9 @@ template <class Terms> struct largest_term {
 };
 
 template <class Terms> struct sum {
-  template <class... S> static auto of(size_t len, const S*... src) { return reduce(sum_of<Terms>{}, len, src...); }
+  template <class... S> TAV_INLINE static auto of(size_t len, const S*... src) {
+    return reduce(sum_of<Terms>{}, len, src...);
+  }
 };
 
 // Sums of singles go on in a double every now and then: the longer a sum, the less of an element it takes in.
@@ -81,6 +83,7 @@ constexpr size_t block_of_singles = 0x8000;
 
 template <class Terms> struct sum_in_singles {
   template <class... S> static Tav32f of(size_t len, const S*... src) {
+    if (len <= block_of_singles) return sum<Terms>::of(len, src...);
     Tav64f total = 0;
     in_blocks<block_of_singles>([&](size_t n, const S*... block) { total += Tav64f(sum<Terms>::of(n, block...)); }, len,
                                 src...);

@@ -16,7 +16,9 @@ struct std_dev_of_singles {
   using src1 = Tav32f;
   using dst  = Tav32f;
 
-  static Tav32f of(size_t len, const Tav32f* src, int hint) { return moments_by_hint(len, src, hint).std_dev; }
+  static Tav32f of(size_t len, const Tav32f* src, int hint) {
+    return moments_by_hint<wanted::deviation>(len, src, hint).std_dev;
+  }
 };
 
 }  // namespace
