@@ -1,4 +1,5 @@
-// The 16-byte registers of SSSE3 behind one overload set: load and store, by element type and count.
+// The 16-byte registers of SSSE3 behind one overload set: load and store, by element type and count; and what
+// many families do to them alike.
 #pragma once
 #include <tmmintrin.h>
 
@@ -27,6 +28,12 @@ template <class T> TAV_INLINE void poke(T* p, T v) { __builtin_memcpy(static_cas
 template <class T, class = void> struct part_of_element { using type = T; };
 template <class T> struct part_of_element<T, std::void_t<decltype(T::re)>> { using type = decltype(T::re); };
 template <class T> using part_of = typename part_of_element<T>::type;
+
+template <class T> inline constexpr bool is_complex = !std::is_same_v<part_of<T>, T>;
+template <class T> inline constexpr int  parts      = is_complex<T> ? 2 : 1;
+
+template <class T> const part_of<T>* parts_of(const T* p) { return reinterpret_cast<const part_of<T>*>(p); }
+template <class T> part_of<T>*       parts_of(T* p) { return reinterpret_cast<part_of<T>*>(p); }
 
 enum class access { unaligned, aligned, streaming };
 
@@ -81,10 +88,34 @@ TAV_INLINE __m128d selected(__m128d mask, __m128d yes, __m128d no) {
   return _mm_or_pd(_mm_and_pd(mask, yes), _mm_andnot_pd(mask, no));
 }
 
+// Without the sign bit.
+TAV_INLINE __m128  sign_cleared(__m128 v) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), v); }
+TAV_INLINE __m128d sign_cleared(__m128d v) { return _mm_andnot_pd(_mm_set1_pd(-0.0), v); }
+
+// Square roots, of lanes and of single elements.
+TAV_INLINE __m128  root(__m128 v) { return _mm_sqrt_ps(v); }
+TAV_INLINE __m128d root(__m128d v) { return _mm_sqrt_pd(v); }
+TAV_INLINE Tav32f  root(Tav32f v) { return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(v))); }
+TAV_INLINE Tav64f  root(Tav64f v) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(v))); }
+
 // The parts of each pair exchanged: pshufd copies and exchanges in one instruction.
 TAV_INLINE __m128i parts_exchanged(__m128i v) { return _mm_shuffle_epi32(v, 0xB1); }
 TAV_INLINE __m128  parts_exchanged(__m128 v) { return _mm_castsi128_ps(parts_exchanged(_mm_castps_si128(v))); }
 TAV_INLINE __m128d parts_exchanged(__m128d v) { return _mm_castsi128_pd(_mm_shuffle_epi32(_mm_castpd_si128(v), 0x4E)); }
+
+// Elements of so many bytes back to front.
+template <int Bytes> TAV_INLINE __m128i reversed(__m128i v) {
+  if constexpr (Bytes == 1)
+    return _mm_shuffle_epi8(v, _mm_setr_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0));
+  else if constexpr (Bytes == 2)
+    return _mm_shuffle_epi8(v, _mm_setr_epi8(14, 15, 12, 13, 10, 11, 8, 9, 6, 7, 4, 5, 2, 3, 0, 1));
+  else if constexpr (Bytes == 4)
+    return _mm_shuffle_epi32(v, _MM_SHUFFLE(0, 1, 2, 3));
+  else if constexpr (Bytes == 8)
+    return _mm_shuffle_epi32(v, _MM_SHUFFLE(1, 0, 3, 2));
+  else
+    return v;
+}
 
 // Of two registers in a row, every other lane.
 TAV_INLINE __m128  even_lanes(__m128 a, __m128 b) { return _mm_shuffle_ps(a, b, 0x88); }
@@ -107,6 +138,9 @@ template <int Bytes> TAV_INLINE __m128i load_low(const void* p) {
     return _mm_cvtsi32_si128(v);
   }
 }
+
+// The four words there as 32-bit integers.
+TAV_INLINE __m128i low_half_as_32s(__m128i v) { return _mm_srai_epi32(_mm_unpacklo_epi16(v, v), 16); }
 
 // N elements of T: a register, the low part of one, or several.
 template <class R, int K> struct several { R r[K]; };

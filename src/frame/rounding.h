@@ -50,6 +50,13 @@ template <class T> inline T settled(T v) {
   return v;
 }
 
+// Up to 2^63 - 2^31 in magnitude, rounded once, in the mode of the SSE unit for either word size: in that of a scope,
+// if the caller has one. 0 is +0.0 in every mode: neither half is negative zero.
+inline double double_of(int64_t v) {
+  const int low = int(uint32_t(v)), high = int((v - low) >> 32);
+  return held(double(high)) * 0x1p32 + double(low);
+}
+
 // The control word of the extended-precision unit: 64-bit precision, to nearest, all exceptions masked.
 //
 // What it puts back, the caller's environment, includes which registers of the unit are in use. Naming them all keeps

@@ -74,7 +74,7 @@ template <class S> struct dot_of_longs : types<S, Tav32s, dot_of_96_bits> {
   TAV_INLINE partial start() const { return {{}, _mm_setzero_si128()}; }
 
   TAV_INLINE void many(partial& p, __m128i a, __m128i b) const {
-    if constexpr (sizeof(S) == 2) a = _mm_srai_epi32(_mm_unpacklo_epi16(a, a), 16);
+    if constexpr (sizeof(S) == 2) a = low_half_as_32s(a);
     a = lifted_longs(a), b = lifted_longs(b);
     const __m128i a_odd = parts_exchanged(a), b_odd = parts_exchanged(b);
     p.words = _mm_add_epi64(p.words, _mm_add_epi64(_mm_add_epi64(a, b), _mm_add_epi64(a_odd, b_odd)));

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "frame/registers.h"
+#include "frame/rounding.h"
 
 namespace tav::TAV_VARIANT {
 
@@ -23,19 +24,14 @@ template <class T> inline T scaled_dot(Tav64s sum, int s) {
   return T(sum * (Tav64s(1) << up));
 }
 
-// Exact up to 2^52, and +0.0 for 0 in every rounding mode: neither half is negative zero.
-TAV_INLINE Tav64f double_of_dot(Tav64s sum) {
-  return Tav64f(Tav32s(sum >> 31)) * 0x1p31 + Tav64f(Tav32s(sum & 0x7FFFFFFF));
-}
-
 // In the caller's rounding mode. The bits of a longer sum that do not go into a double leave a 1 in its last place if
 // they are not all 0, far below what a single holds: the conversion to it stays the only rounding.
 TAV_INLINE Tav32f single_of_dot(Tav64s sum) {
   constexpr Tav64s longest = Tav64s(1) << 52;
   constexpr int    cut     = 11;
-  if (sum >= -longest && sum <= longest) return Tav32f(double_of_dot(sum));
+  if (sum >= -longest && sum <= longest) return Tav32f(double_of(sum));
   const bool more = (sum & ((1 << cut) - 1)) != 0;
-  return Tav32f(double_of_dot(sum >> cut | more) * (1 << cut));
+  return Tav32f(double_of(sum >> cut | more) * (1 << cut));
 }
 
 // The same by the type of the result, and for both parts of a complex one.

@@ -92,14 +92,12 @@ template <class Terms> struct sum_in_singles {
 };
 
 template <class Rule> struct root_of_sum {
-  template <class... S> static auto of(size_t len, const S*... src) { return norm_root(Rule::of(len, src...)); }
+  template <class... S> static auto of(size_t len, const S*... src) { return root(Rule::of(len, src...)); }
 };
 
 // The squares of pairs add up to those of their parts.
 template <class Rule> struct on_parts {
-  template <class... C> static auto of(size_t len, const C*... src) {
-    return Rule::of(2 * len, reinterpret_cast<const part_of<C>*>(src)...);
-  }
+  template <class... C> static auto of(size_t len, const C*... src) { return Rule::of(2 * len, parts_of(src)...); }
 };
 
 template <class S, class D, class Rule> struct norm : types<S, S, D> {

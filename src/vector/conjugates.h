@@ -1,5 +1,5 @@
-// Conjugates of complex elements, and registers of pairs turned back to front. Of floats only the sign bit of the
-// imaginary part changes; an imaginary part of -32768 becomes 32767.
+// Conjugates of complex elements. Of floats only the sign bit of the imaginary part changes; an imaginary part of
+// -32768 becomes 32767.
 #pragma once
 #include "vector/parts.h"
 
@@ -22,11 +22,5 @@ template <> struct conjugate_of<Tav16sc> : types<Tav16sc, Tav16sc, Tav16sc> {
     return _mm_adds_epi16(_mm_xor_si128(v, _mm_set1_epi32(int(0xFFFF0000))), _mm_set1_epi32(0x00010000));
   }
 };
-
-template <class C> TAV_INLINE __m128i pairs_turned(__m128i v) {
-  if constexpr (sizeof(C) == 4) return _mm_shuffle_epi32(v, _MM_SHUFFLE(0, 1, 2, 3));
-  if constexpr (sizeof(C) == 8) return _mm_shuffle_epi32(v, _MM_SHUFFLE(1, 0, 3, 2));
-  return v;
-}
 
 }  // namespace tav::TAV_VARIANT

@@ -92,7 +92,7 @@ class convert_64f64s_kernel {
   __m128i many(__m128d v) const {
     const __m128d scaled    = v * by_;
     const __m128i below     = as_bits(_mm_cmplt_pd(scaled, _mm_setzero_pd()));
-    const __m128d size      = _mm_andnot_pd(_mm_set1_pd(-0.0), scaled) + raise_;
+    const __m128d size      = sign_cleared(scaled) + raise_;
     const __m128i too_large = as_bits(_mm_cmpnlt_pd(size, _mm_set1_pd(0x1p63)));  // a NaN, too, and it is not below 0
     const __m128i limit     = _mm_xor_si128(below, _mm_set1_epi64x(max_64s));
     return selected(too_large, limit, with_sign(whole(size), below));

@@ -47,18 +47,15 @@ struct quotients_64f : types<Tav64f, Tav64f, Tav64f>, zeros_in_double {
 // divisor each part of the dividend is divided by +0.
 struct complex_quotient : zeros_in_double {
   TAV_INLINE __m128d of(__m128d b, __m128d a) {
-    const __m128d swapped = turned(a), opposite = _mm_setr_pd(0.0, -0.0);
+    const __m128d swapped = parts_exchanged(a), opposite = _mm_setr_pd(0.0, -0.0);
     const __m128d numerator = _mm_add_pd(_mm_mul_pd(a, _mm_unpacklo_pd(b, b)),
                                          _mm_xor_pd(_mm_mul_pd(swapped, _mm_unpackhi_pd(b, b)), opposite));
     const __m128d squares = _mm_mul_pd(b, b), zero_parts = _mm_cmpeq_pd(b, _mm_setzero_pd());
-    const __m128d zero = _mm_and_pd(zero_parts, turned(zero_parts));
+    const __m128d zero = _mm_and_pd(zero_parts, parts_exchanged(zero_parts));
     zeros              = _mm_or_pd(zeros, zero);
     return _mm_div_pd(_mm_or_pd(_mm_and_pd(zero, a), _mm_andnot_pd(zero, numerator)),
-                      _mm_add_pd(squares, turned(squares)));
+                      _mm_add_pd(squares, parts_exchanged(squares)));
   }
-
- private:
-  static __m128d turned(__m128d v) { return _mm_shuffle_pd(v, v, 1); }
 };
 
 struct quotients_64fc : types<Tav64fc, Tav64fc, Tav64fc>, complex_quotient {

@@ -164,9 +164,7 @@ struct quotients_16sc : types<Tav16sc, Tav16sc, Tav16sc> {
 
  private:
   // A sum of two squares of -32768 wraps to -2^31, which only has the wrong sign.
-  static __m128d denominators(__m128d squares) {
-    return _mm_max_pd(_mm_andnot_pd(_mm_set1_pd(-0.0), squares), _mm_set1_pd(0x1p-100));
-  }
+  static __m128d denominators(__m128d squares) { return _mm_max_pd(sign_cleared(squares), _mm_set1_pd(0x1p-100)); }
 
   // The same wrap becomes 2^31 - 1. Its quotient by 2^31 is as good as 1: it rounds alike at every factor.
   static __m128i real_numerators(__m128i b, __m128i a) {

@@ -7,19 +7,6 @@
 
 namespace tav::TAV_VARIANT {
 
-template <int Bytes> TAV_INLINE __m128i reversed(__m128i v) {
-  if constexpr (Bytes == 1)
-    return _mm_shuffle_epi8(v, _mm_setr_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0));
-  else if constexpr (Bytes == 2)
-    return _mm_shuffle_epi8(v, _mm_setr_epi8(14, 15, 12, 13, 10, 11, 8, 9, 6, 7, 4, 5, 2, 3, 0, 1));
-  else if constexpr (Bytes == 4)
-    return _mm_shuffle_epi32(v, _MM_SHUFFLE(0, 1, 2, 3));
-  else if constexpr (Bytes == 8)
-    return _mm_shuffle_epi32(v, _MM_SHUFFLE(1, 0, 3, 2));
-  else
-    return v;
-}
-
 template <class T> TAV_INLINE __m128i load_reversed(const T* p) {
   return reversed<sizeof(T)>(load_bits<access::unaligned>(p));
 }

@@ -118,18 +118,14 @@ inline int twice(int len) { return int(unsigned(len) * 2); }
 
 template <auto* OfParts, class C, class... Scale>
 TavStatus two_sources_of_parts(const C* src1, const C* src2, C* dst, int len, Scale... scaleFactor) {
-  using part = decltype(C::re);
   if (len < 1) return tavStatusBadSize;
-  return forward<OfParts>(reinterpret_cast<const part*>(src1), reinterpret_cast<const part*>(src2),
-                          reinterpret_cast<part*>(dst), twice(len), scaleFactor...);
+  return forward<OfParts>(parts_of(src1), parts_of(src2), parts_of(dst), twice(len), scaleFactor...);
 }
 
 template <auto* OfParts, class C, class... Scale>
 TavStatus in_place_of_parts(const C* src, C* srcDst, int len, Scale... scaleFactor) {
-  using part = decltype(C::re);
   if (len < 1) return tavStatusBadSize;
-  return forward<OfParts>(reinterpret_cast<const part*>(src), reinterpret_cast<part*>(srcDst), twice(len),
-                          scaleFactor...);
+  return forward<OfParts>(parts_of(src), parts_of(srcDst), twice(len), scaleFactor...);
 }
 
 }  // namespace tav::TAV_VARIANT

@@ -2,6 +2,7 @@
 //
 // What lies outside is limited, and a NaN becomes the highest sample.
 #include "frame/rounding.h"
+#include "vector/bytes_24.h"
 #include "vector/split_join.h"
 #include "vector/to_integer.h"
 
@@ -31,16 +32,8 @@ struct join_16s {
 struct join_24s {
   static constexpr size_t bytes = 3;
 
-  static void one(Tav8u* p, Tav32f v) {
-    const auto sample = unsigned(_mm_cvtsi128_si32(rounded_pair(in_range(_mm_set_ss(v)))));
-    p[0] = Tav8u(sample), p[1] = Tav8u(sample >> 8), p[2] = Tav8u(sample >> 16);
-  }
-  static void four(Tav8u* p, __m128 v) {
-    const __m128i r    = rounded(v);
-    const int     last = _mm_cvtsi128_si32(_mm_srli_si128(r, 8));
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(p), r);
-    __builtin_memcpy(p + 8, &last, 4);
-  }
+  static void one(Tav8u* p, Tav32f v) { store_3_bytes(p, rounded_pair(in_range(_mm_set_ss(v)))); }
+  static void four(Tav8u* p, __m128 v) { store_12_bytes(p, rounded(v)); }
   static void eight(Tav8u* p, __m128 v1, __m128 v2) {
     const __m128i r1 = rounded(v1), r2 = rounded(v2);
     store_bits<access::unaligned>(p, _mm_or_si128(r1, _mm_slli_si128(r2, 12)));
@@ -55,10 +48,8 @@ struct join_24s {
     return _mm_cvtpd_epi32(steps);
   }
   static __m128i rounded(__m128 levels) {
-    constexpr char no = -128;
-    const __m128   v  = in_range(levels);
-    const __m128i  r  = _mm_unpacklo_epi64(rounded_pair(v), rounded_pair(_mm_movehl_ps(v, v)));
-    return _mm_shuffle_epi8(r, _mm_setr_epi8(0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, no, no, no, no));
+    const __m128 v = in_range(levels);
+    return packed_24<in_lane::low>(_mm_unpacklo_epi64(rounded_pair(v), rounded_pair(_mm_movehl_ps(v, v))));
   }
 };
 

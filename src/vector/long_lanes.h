@@ -15,7 +15,7 @@ TAV_INLINE __m128i mask_of_signs(__m128i v) {  // of 64 bits
 
 TAV_INLINE __m128i mask_of_zeros(__m128i v) {
   const __m128i zeros = _mm_cmpeq_epi32(v, _mm_setzero_si128());
-  return _mm_and_si128(zeros, _mm_shuffle_epi32(zeros, _MM_SHUFFLE(2, 3, 0, 1)));
+  return _mm_and_si128(zeros, parts_exchanged(zeros));
 }
 
 // How each type adds, and how it takes a sign off and puts it on again.

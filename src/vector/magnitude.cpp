@@ -5,11 +5,6 @@
 namespace tav::TAV_VARIANT {
 namespace {
 
-TAV_INLINE __m128  root(__m128 v) { return _mm_sqrt_ps(v); }
-TAV_INLINE __m128d root(__m128d v) { return _mm_sqrt_pd(v); }
-TAV_INLINE Tav32f  root(Tav32f v) { return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(v))); }
-TAV_INLINE Tav64f  root(Tav64f v) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(v))); }
-
 template <class Squares> struct root_of : Squares {
   template <class... E> TAV_INLINE static auto one(E... e) { return root(Squares::one(e...)); }
   template <class... R> TAV_INLINE static auto many(R... r) { return root(Squares::many(r...)); }

@@ -64,9 +64,7 @@ template <> struct narrow_row<Tav8u> : lanes_of_16 {
 template <> struct narrow_row<Tav16s> : lanes_of_32 {
   static constexpr int lowest = -32768, highest = 32767;
 
-  static pair_of_lanes widen(__m128i v) {
-    return {{_mm_srai_epi32(_mm_unpacklo_epi16(v, v), 16), _mm_srai_epi32(_mm_unpackhi_epi16(v, v), 16)}};
-  }
+  static pair_of_lanes widen(__m128i v) { return {{low_half_as_32s(v), _mm_srai_epi32(_mm_unpackhi_epi16(v, v), 16)}}; }
   static pair_of_lanes sum(__m128i a, __m128i b) { return interleaved(a, b, _mm_set1_epi16(1)); }
   static pair_of_lanes difference(__m128i a, __m128i b) { return interleaved(a, b, _mm_set1_epi32(int(0xFFFF0001))); }
   static pair_of_lanes product(__m128i a, __m128i b) {

@@ -20,8 +20,7 @@ TAV_INLINE points<Tav64f> points_of(several<__m128d, 2> pairs) { return {all_re(
 
 // Of 16-bit coordinates, four of each in the low halves, or four pairs.
 TAV_INLINE points<Tav32f> points_of_words(__m128i re, __m128i im) {
-  const auto floats = [](__m128i v) { return _mm_cvtepi32_ps(_mm_srai_epi32(_mm_unpacklo_epi16(v, v), 16)); };
-  return {floats(re), floats(im)};
+  return {_mm_cvtepi32_ps(low_half_as_32s(re)), _mm_cvtepi32_ps(low_half_as_32s(im))};
 }
 TAV_INLINE points<Tav32f> points_of_words(__m128i pairs) {
   return {_mm_cvtepi32_ps(_mm_srai_epi32(_mm_slli_epi32(pairs, 16), 16)), _mm_cvtepi32_ps(_mm_srai_epi32(pairs, 16))};
@@ -82,8 +81,8 @@ class angle_in_words {
  private:
   TAV_INLINE static __m128 in_doubt(__m128 value, __m128i nearest) {
     constexpr float largest_error = 0x1.2p-23f;  // of an angle, as a part of it; that of any pair is below 0x1.1p-23
-    const __m128    sign = _mm_set1_ps(-0.0f), off = _mm_andnot_ps(sign, value - _mm_cvtepi32_ps(nearest));
-    const __m128    error = _mm_andnot_ps(sign, value) * _mm_set1_ps(largest_error);
+    const __m128    off           = sign_cleared(value - _mm_cvtepi32_ps(nearest));
+    const __m128    error         = sign_cleared(value) * _mm_set1_ps(largest_error);
     return _mm_cmpge_ps(off + error, _mm_set1_ps(0.5f));
   }
   TAV_INLINE __m128i precisely(points<Tav64f> p) const {

@@ -64,7 +64,7 @@ struct words_from_polar {
         exact(fraction, s) {}
 
   TAV_INLINE __m128i many(__m128i magn, __m128i phase) const {
-    const __m128i m = as_32s(magn), p = as_32s(phase);
+    const __m128i m = low_half_as_32s(magn), p = low_half_as_32s(phase);
     const auto    of     = sine_cosine_of(_mm_cvtepi32_ps(p) * unit);
     const __m128  scaled = _mm_cvtepi32_ps(m) * scale, re = scaled * of.cosine, im = scaled * of.sine;
     const __m128i whole_re = _mm_cvtps_epi32(re), whole_im = _mm_cvtps_epi32(im);
@@ -73,12 +73,11 @@ struct words_from_polar {
   }
 
  private:
-  static __m128i as_32s(__m128i v) { return _mm_srai_epi32(_mm_unpacklo_epi16(v, v), 16); }
   static __m128i high_half(__m128i v) { return _mm_unpackhi_epi64(v, v); }
 
   // NaNs count, and numbers beyond 32 bits, which convert to another one.
   static __m128 near_tie(__m128 v, __m128i whole) {
-    const __m128 off = _mm_andnot_ps(_mm_set1_ps(-0.0f), v - _mm_cvtepi32_ps(whole));
+    const __m128 off = sign_cleared(v - _mm_cvtepi32_ps(whole));
     return _mm_cmpnle_ps(off, _mm_set1_ps(0.493f));
   }
 

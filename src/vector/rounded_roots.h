@@ -26,7 +26,7 @@ struct roots_of_32_bits {
   }
 
   static __m128i truncated_root(__m128i n, F scale) {
-    const __m128 v = _mm_andnot_ps(_mm_set1_ps(-0.0f), _mm_cvtepi32_ps(n));
+    const __m128 v = sign_cleared(_mm_cvtepi32_ps(n));
     return _mm_cvttps_epi32(_mm_mul_ps(_mm_sqrt_ps(v), _mm_set1_ps(scale)));
   }
 };

@@ -163,18 +163,18 @@ template <class T> TAV_INLINE sine_cosine<reg<T>> turned(sine_cosine<reg<T>> of,
 }
 
 TAV_INLINE sine_cosine<__m128> sine_cosine_of(__m128 angle) {
-  const auto a = reduced(_mm_andnot_ps(_mm_set1_ps(-0.0f), angle));
+  const auto a = reduced(sign_cleared(angle));
   return turned<Tav32f>(of_rest(a.rest), a.quarters, as_bits(angle));
 }
 
 TAV_INLINE sine_cosine<__m128d> sine_cosine_of(__m128d angle) {
-  const auto a = reduced(_mm_andnot_pd(_mm_set1_pd(-0.0), angle));
+  const auto a = reduced(sign_cleared(angle));
   return turned<Tav64f>(of_rest(a.rest, a.low), a.quarters, as_bits(angle));
 }
 
 // For results that become integers: of angles with at most 32 significant bits, with an absolute error below 2^-51.
 TAV_INLINE sine_cosine<__m128d> sine_cosine_for_integers(__m128d angle) {
-  const auto a = reduced_for_integers(_mm_andnot_pd(_mm_set1_pd(-0.0), angle));
+  const auto a = reduced_for_integers(sign_cleared(angle));
   return turned<Tav64f>(of_rest(a.rest), a.quarters, as_bits(angle));
 }
 

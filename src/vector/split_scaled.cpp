@@ -2,6 +2,7 @@
 //
 // Samples convert from the upper bits of 32-bit integers, and the multiplier makes up for it, which changes no result.
 // Products and sums are rounded each by itself in the caller's mode, in scalar and vector parts alike.
+#include "vector/bytes_24.h"
 #include "vector/split_join.h"
 
 namespace tav::TAV_VARIANT {
@@ -36,14 +37,13 @@ struct split_24s {
     const Tav32s upper = Tav32s(Tav32u(p[0]) << 8 | Tav32u(p[1]) << 16 | Tav32u(p[2]) << 24);
     return Tav32f(Tav64f(upper >> 8) * step_of_24s + half_step_of_24s);
   }
-  static __m128 four(const Tav8u* p) {
-    return scaled(from_first_bytes(_mm_unpacklo_epi64(load_low<8>(p), load_low<4>(p + 8))));
-  }
+  static __m128             four(const Tav8u* p) { return scaled(lanes_of_24<in_lane::high>(load_12_bytes(p))); }
   static several<__m128, 2> eight(const Tav8u* p) {
     constexpr char no        = -128;
     const __m128i  last      = load_bits<access::unaligned>(p + 8);
     const __m128i  last_four = _mm_setr_epi8(no, 4, 5, 6, no, 7, 8, 9, no, 10, 11, 12, no, 13, 14, 15);
-    return {{scaled(from_first_bytes(load_bits<access::unaligned>(p))), scaled(_mm_shuffle_epi8(last, last_four))}};
+    return {{scaled(lanes_of_24<in_lane::high>(load_bits<access::unaligned>(p))),
+             scaled(_mm_shuffle_epi8(last, last_four))}};
   }
   static several<__m128, 2> four_pairs(const Tav8u* p) {
     const auto v = eight(p);
@@ -52,10 +52,6 @@ struct split_24s {
   }
 
  private:
-  static __m128i from_first_bytes(__m128i v) {
-    constexpr char no = -128;
-    return _mm_shuffle_epi8(v, _mm_setr_epi8(no, 0, 1, 2, no, 3, 4, 5, no, 6, 7, 8, no, 9, 10, 11));
-  }
   static __m128 scaled_pair(__m128i upper) {
     return _mm_cvtpd_ps(_mm_cvtepi32_pd(upper) * _mm_set1_pd(step_of_24s * 0x1p-8) + _mm_set1_pd(half_step_of_24s));
   }

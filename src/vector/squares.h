@@ -20,9 +20,7 @@ TAV_INLINE __m128i squares_of_words(__m128i pairs) { return _mm_madd_epi16(pairs
 TAV_INLINE Tav32u  square_of_words(Tav16sc v) { return Tav32u(v.re * v.re) + Tav32u(v.im * v.im); }
 
 // Such squares as floats, rounded in the caller's mode; 2^31 converts exactly, to the wrong sign.
-TAV_INLINE __m128 floats_of_squares(__m128i squares) {
-  return _mm_andnot_ps(_mm_set1_ps(-0.0f), _mm_cvtepi32_ps(squares));
-}
+TAV_INLINE __m128 floats_of_squares(__m128i squares) { return sign_cleared(_mm_cvtepi32_ps(squares)); }
 
 // Pairs of 32 bits, in lanes of 64; up to 2^63, again without a sign.
 TAV_INLINE __m128i squares_of_long_words(__m128i pairs) {

@@ -86,13 +86,13 @@ template <side Side> struct clipped<Tav16sc, Side> : on_magnitudes<Tav16sc, roun
   // Keeps in mind how near to the middle of two integers any one has come.
   TAV_INLINE static __m128i rounded(__m128d quotients, __m128d& to_middle) {
     const __m128i nearest = _mm_cvtpd_epi32(quotients);
-    const __m128d away    = _mm_andnot_pd(_mm_set1_pd(-0.0), _mm_sub_pd(quotients, _mm_cvtepi32_pd(nearest)));
+    const __m128d away    = sign_cleared(_mm_sub_pd(quotients, _mm_cvtepi32_pd(nearest)));
     to_middle             = _mm_min_pd(to_middle, _mm_sub_pd(_mm_set1_pd(0.5), away));
     return nearest;
   }
 
   static __m128i upper(__m128i v) { return _mm_unpackhi_epi64(v, v); }
-  static __m128d unsigned_squares(__m128i v) { return _mm_andnot_pd(_mm_set1_pd(-0.0), _mm_cvtepi32_pd(v)); }
+  static __m128d unsigned_squares(__m128i v) { return sign_cleared(_mm_cvtepi32_pd(v)); }
 
   square_limit<Side> limit_;
   Tav16s             level_;

@@ -62,8 +62,7 @@ template <complex_float T, side Side> struct clipped<T, Side> : on_magnitudes<T,
   static constexpr kernel_shape shape = pair_shape<T>;
 
   explicit clipped(part_of<T> level)
-      : level_(_mm_andnot_pd(_mm_set1_pd(-0.0), bounded<T>(in_both(level)))),
-        square_(in_both(level) * in_both(level)) {}
+      : level_(sign_cleared(bounded<T>(in_both(level)))), square_(in_both(level) * in_both(level)) {}
 
   TAV_INLINE auto many(auto x) const {
     const two_pairs wide    = in_double(x);

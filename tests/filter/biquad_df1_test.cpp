@@ -1,7 +1,5 @@
 // Cascades in direct form 1: singles, and doubles on 32-bit integers.
-#include "filter/biquad_forms.h"
-
-#include "harness/layouts.h"
+#include "filter/biquad_checks.h"
 #include "harness/tavcore_fake.h"
 
 using namespace test;
@@ -41,7 +39,7 @@ oracle::cascade definition_from(const std::vector<typename F::tap>& taps, const 
 }
 
 template <class F> void expect_near(typename F::sample got, long double want, long double error) {
-  if constexpr (is_scaled<F>) {
+  if constexpr (takes_scale<F>) {
     const long double clipped = fmaxl(fminl(want / 2, 2147483647.0L), -2147483648.0L);
     EXPECT_LE(fabsl((long double)got - clipped), error + 0.5L + 1e-9L);
   } else {
@@ -53,7 +51,7 @@ template <class F> void expect_near(typename F::sample got, long double want, lo
 template <class F> void check_stream(int sections, double radius, uint32_t seed) {
   source_of_data           data(seed);
   const auto               taps = stable_taps<F>(sections, radius, data);
-  const long double        peak = is_scaled<F> ? 1e9 : 1;
+  const long double        peak = takes_scale<F> ? 1e9 : 1;
   std::vector<delay_of<F>> line(size_t(4 * sections));
   for (auto& v : line) v = delay_of<F>(peak * (double(int32_t(data.bits())) / 2147483648.0));
   const biquad_state<F> state(taps, line.data());
@@ -120,57 +118,9 @@ TYPED_TEST(BiquadDf1, DelayLine) {
   }
 }
 
-TYPED_TEST(BiquadDf1, LayoutsAgree) {
-  using F = TypeParam;
-  using D = typename F::sample;
-  source_of_data data(6);
-  arena          from(1100 * sizeof(D)), to(1100 * sizeof(D));
-  for (int sections : {1, 2, 3}) {
-    const auto taps = stable_taps<F>(sections, 0.8, data);
-    for (int len : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 13, 1030}) {
-      const auto     x = noise<F>(size_t(len), data);
-      std::vector<D> want(x.size());
-      ASSERT_EQ((filter_biquads<F>(x.data(), want.data(), len, biquad_state<F>(taps).get(), 0)), tavStatusOk);
-      for (const layout& l : len < 20 ? all_layouts() : few_layouts()) {
-        array<D> src(from, x.size(), l.src), dst(to, x.size(), l.dst);
-        src.assign(x);
-        ASSERT_EQ((filter_biquads<F>(src.data(), dst.data(), len, biquad_state<F>(taps).get(), 0)), tavStatusOk);
-        ASSERT_EQ(first_difference(dst.values(), want), -1) << len << " samples, " << l;
-        ASSERT_TRUE(dst.guards_intact() && src.guards_intact() && first_difference(src.values(), x) == -1) << l;
-        ASSERT_EQ((filter_biquads<F>(src.data(), src.data(), len, biquad_state<F>(taps).get(), 0)), tavStatusOk);
-        ASSERT_EQ(first_difference(src.values(), want), -1) << "in place, " << len << " samples, " << l;
-        ASSERT_TRUE(src.guards_intact());
-      }
-    }
-  }
-}
+TYPED_TEST(BiquadDf1, LayoutsAgree) { check_biquad_layouts<TypeParam>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 13, 1030}, 6); }
 
-TYPED_TEST(BiquadDf1, WorksInTheMemoryThatItAsksFor) {
-  using F = TypeParam;
-  source_of_data data(3);
-  for (int n : {1, 2, 3, 7}) {
-    const auto taps = stable_taps<F>(n, 0.8, data);
-    const auto x    = noise<F>(1500, data);
-    auto       want = x;
-    ASSERT_EQ((filter_biquads<F>(x.data(), want.data(), 1500, biquad_state<F>(taps).get(), 0)), tavStatusOk);
-    int size = 0;
-    ASSERT_EQ(call<F::get_size>(n, &size), tavStatusOk);
-    arena                  home(size_t(size) + 64);
-    std::vector<placement> places{{placement::begins_at_page}, {placement::ends_at_page}};
-    for (unsigned offset = 0; offset < 64; ++offset) places.push_back({placement::inside, offset});
-    for (const placement& p : places) {
-      const array<Tav8u> block(home, size_t(size), p);
-      typename F::state* state = nullptr;
-      ASSERT_EQ((init_biquads<F>(&state, taps.data(), n, static_cast<const delay_of<F>*>(nullptr), block.data())),
-                tavStatusOk);
-      auto y = x;
-      ASSERT_EQ((filter_biquads<F>(y.data(), y.data(), 1500, state, 0)), tavStatusOk);
-      ASSERT_EQ(first_difference(y, want), -1) << p;
-      ASSERT_EQ(call<F::free>(state), tavStatusOk);
-      ASSERT_TRUE(block.guards_intact()) << p;
-    }
-  }
-}
+TYPED_TEST(BiquadDf1, WorksInTheMemoryThatItAsksFor) { check_biquad_memory<TypeParam>(); }
 
 TYPED_TEST(BiquadDf1, RefusalsOfSetUp) {
   using F = TypeParam;

@@ -7,6 +7,7 @@
 #include "harness/arena.h"
 #include "harness/call.h"
 #include "harness/data.h"
+#include "harness/parts.h"
 #include "oracle/biquad.h"
 
 namespace test {
@@ -57,20 +58,11 @@ struct biquad_form_names {
   template <class F> static std::string GetName(int) { return F::name; }
 };
 
-template <class T> inline constexpr bool is_pair = requires(T v) { v.re; };
-template <class T> struct part_of { using type = T; };
-template <class T>
-requires is_pair<T>
-struct part_of<T> {
-  using type = decltype(T::re);
-};
-template <class T> using part = typename part_of<T>::type;
-
-template <class F> inline constexpr bool converts_taps = std::is_integral_v<part<typename F::tap>>;
-template <class F> inline constexpr bool is_scaled     = std::is_integral_v<part<typename F::sample>>;
+template <class F> inline constexpr bool converts_taps = std::is_integral_v<part_of<typename F::tap>>;
+template <class F> inline constexpr bool takes_scale   = std::is_integral_v<part_of<typename F::sample>>;
 template <class F> inline constexpr bool is_mixed      = !std::is_same_v<typename F::arithmetic, typename F::sample>;
 template <class F>
-inline constexpr long double epsilon_of = std::numeric_limits<part<typename F::arithmetic>>::epsilon();
+inline constexpr long double epsilon_of = std::numeric_limits<part_of<typename F::arithmetic>>::epsilon();
 
 template <class T> oracle::wide widened(T v) {
   if constexpr (is_pair<T>)
@@ -80,7 +72,7 @@ template <class T> oracle::wide widened(T v) {
 }
 template <class T> T narrowed(oracle::wide v) {
   if constexpr (is_pair<T>)
-    return {part<T>(v.re), part<T>(v.im)};
+    return {part_of<T>(v.re), part_of<T>(v.im)};
   else
     return T(v.re);
 }
@@ -109,7 +101,7 @@ template <class F> TavStatus set_biquads(const typename F::tap* taps, typename F
     return call<F::set_taps>(taps, state);
 }
 template <auto* Filter, class F, class... A> TavStatus with_scale(int scale, A... args) {
-  if constexpr (is_scaled<F>)
+  if constexpr (takes_scale<F>)
     return call<Filter>(args..., scale);
   else
     return call<Filter>(args...);
@@ -196,8 +188,8 @@ template <class F> class biquad_state {
 // Samples of ordinary size.
 template <class F> std::vector<typename F::sample> noise(size_t n, source_of_data& data) {
   using D              = typename F::sample;
-  using P              = part<D>;
-  const double   peak  = is_scaled<F> ? sizeof(P) == 2 ? 20000 : 1e9 : 1;
+  using P              = part_of<D>;
+  const double   peak  = takes_scale<F> ? sizeof(P) == 2 ? 20000 : 1e9 : 1;
   const auto     value = [&] { return P(peak * (double(int32_t(data.bits())) / 2147483648.0)); };
   std::vector<D> v(n);
   for (D& x : v) {

@@ -35,7 +35,7 @@ template <class F> std::vector<typename F::tap> halving(int sections) {
 
 template <class F> void check_rounding(int sections, int len, int s, bool by_one) {
   using D = typename F::sample;
-  using P = part<D>;
+  using P = part_of<D>;
   source_of_data        data{uint32_t(len + s)};
   const biquad_state<F> state(halving<F>(sections));
   std::vector<D>        x(size_t(len), D{}), y = x;
@@ -56,7 +56,7 @@ template <class F> void check_rounding(int sections, int len, int s, bool by_one
   for (int i = 0; i < len; ++i) {
     const int  of_block = std::min(1024, len - i / 1024 * 1024);
     const bool cut      = cuts<F> && !by_one && of_block > 4 * sections && i % 1024 < 2;
-    const auto want     = [&](P v) { return stored<P, part<typename F::arithmetic>>(v * 0.5, s, cut); };
+    const auto want     = [&](P v) { return stored<P, part_of<typename F::arithmetic>>(v * 0.5, s, cut); };
     const auto where    = [&] {
       return testing::Message() << "output " << i << " of " << len << ", " << sections << " sections, factor " << s;
     };

@@ -1,5 +1,5 @@
 // States of cascades: sizes, set-up in no more memory than they tell, refused allocations, taps that cannot be.
-#include "filter/biquad_forms.h"
+#include "filter/biquad_checks.h"
 
 #include "harness/tavcore_fake.h"
 
@@ -42,38 +42,7 @@ TEST(BiquadRecordDf1, Sizes) {
   }
 }
 
-// At every address, in exactly the bytes told, with blocks that touch all of the record.
-TYPED_TEST(BiquadRecord, WorksInTheMemoryThatItAsksFor) {
-  using F = TypeParam;
-  source_of_data data(3);
-  for (int n : {1, 2, 3, 7}) {
-    const auto taps = stable_taps<F>(n, 0.8, data);
-    const auto x    = noise<F>(1500, data);
-    auto       want = x;
-    ASSERT_EQ((filter_biquads<F>(x.data(), want.data(), 1500, biquad_state<F>(taps).get(), 0)), tavStatusOk);
-    int size = 0;
-    ASSERT_EQ(call<F::get_size>(n, &size), tavStatusOk);
-    arena                  home(size_t(size) + 64);
-    std::vector<placement> places{{placement::begins_at_page}, {placement::ends_at_page}};
-    for (unsigned offset = 0; offset < 64; ++offset) places.push_back({placement::inside, offset});
-    for (const placement& p : places) {
-      const array<Tav8u>       block(home, size_t(size), p);
-      typename F::state*       state = nullptr;
-      std::vector<delay_of<F>> line(size_t(2 * n));
-      ASSERT_EQ((init_biquads<F>(&state, taps.data(), n, static_cast<const delay_of<F>*>(nullptr), block.data())),
-                tavStatusOk);
-      EXPECT_EQ(reinterpret_cast<uintptr_t>(state) % 32, 0u);
-      EXPECT_LT(reinterpret_cast<uintptr_t>(state) - reinterpret_cast<uintptr_t>(block.data()), 32u);
-      auto y = x;
-      ASSERT_EQ((filter_biquads<F>(y.data(), y.data(), 1500, state, 0)), tavStatusOk);
-      ASSERT_EQ(first_difference(y, want), -1) << p;
-      ASSERT_EQ(call<F::get_delay>(static_cast<const typename F::state*>(state), line.data()), tavStatusOk);
-      ASSERT_EQ(call<F::free>(state), tavStatusOk);
-      ASSERT_EQ(call<F::free>(state), tavStatusOk) << "a state in the caller's memory stays";
-      ASSERT_TRUE(block.guards_intact()) << p;
-    }
-  }
-}
+TYPED_TEST(BiquadRecord, WorksInTheMemoryThatItAsksFor) { check_biquad_memory<TypeParam>(); }
 
 TYPED_TEST(BiquadRecord, RefusedAllocations) {
   using F = TypeParam;

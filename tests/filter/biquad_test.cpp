@@ -1,9 +1,8 @@
 // Cascades of biquads in transposed direct form 2: every form against the definition, in any split of a stream.
-#include "filter/biquad_forms.h"
+#include "filter/biquad_checks.h"
 
 #include <fenv.h>
 
-#include "harness/layouts.h"
 #include "harness/tavcore_fake.h"
 
 using namespace test;
@@ -16,9 +15,9 @@ TYPED_TEST_SUITE(Biquad, biquad_forms, biquad_form_names);
 constexpr int scale = 1;  // of outputs in integers
 
 // An output against what it should be, which may be off by `error`; without rounding to nearest by 1 more.
-template <class F> void expect_near(part<typename F::sample> got, long double want, long double error, bool cut) {
-  using P = part<typename F::sample>;
-  if constexpr (is_scaled<F>) {
+template <class F> void expect_near(part_of<typename F::sample> got, long double want, long double error, bool cut) {
+  using P = part_of<typename F::sample>;
+  if constexpr (takes_scale<F>) {
     const long double scaled = want / (1 << scale), most = std::numeric_limits<P>::max();
     const long double clipped = fmaxl(fminl(scaled, most), -most - 1);
     EXPECT_LE(fabsl((long double)got - clipped), error / (1 << scale) + (cut ? 1 : 0.5L) + 1e-9L);
@@ -28,7 +27,7 @@ template <class F> void expect_near(part<typename F::sample> got, long double wa
 }
 
 // In the forms in real singles with 16-bit samples the first two outputs of a block by look-ahead are cut off.
-template <class F> inline constexpr bool cuts = is_scaled<F>&& std::is_same_v<typename F::arithmetic, Tav32f>;
+template <class F> inline constexpr bool cuts = takes_scale<F>&& std::is_same_v<typename F::arithmetic, Tav32f>;
 
 // A stream through a state and through the definition, in calls of lengths and kinds as they come.
 template <class F> void check_stream(int sections, double radius, uint32_t seed) {
@@ -41,8 +40,9 @@ template <class F> void check_stream(int sections, double radius, uint32_t seed)
   auto                   y      = x;
   const int              n4     = 4 * sections;
   const std::vector<int> lengths{1, 2, 3, 4, 5, 7, n4 - 1, n4, n4 + 1, n4 + 2, 64, 1023, 1024, 1025, 1029};
-  const long double peak  = is_scaled<F> ? sizeof(x[0]) / sizeof(part<typename F::sample>) == 2 ? 3e4L : 2e4L : 1.5L;
-  const long double top   = is_scaled<F> && sizeof(part<typename F::sample>) == 4 ? 1.5e9L : peak;
+  const long double      peak =
+      takes_scale<F> ? sizeof(x[0]) / sizeof(part_of<typename F::sample>) == 2 ? 3e4L : 2e4L : 1.5L;
+  const long double top   = takes_scale<F> && sizeof(part_of<typename F::sample>) == 4 ? 1.5e9L : peak;
   const long double error = oracle::error_bound(wanted, top, total, epsilon_of<F>);
   for (int i = 0; i < total;) {
     const int len  = std::min(lengths[size_t(data.below(int(lengths.size())))], total - i);
@@ -79,30 +79,8 @@ TYPED_TEST(Biquad, AnySplitOfAStreamIsTheDefinition) {
     }
 }
 
-// Wherever source and destination lie, and in place, the bits are the same.
 TYPED_TEST(Biquad, LayoutsAgree) {
-  using F = TypeParam;
-  using D = typename F::sample;
-  source_of_data data(5);
-  arena          from(1100 * sizeof(D)), to(1100 * sizeof(D));
-  for (int sections : {1, 2, 3}) {
-    const auto taps = stable_taps<F>(sections, 0.8, data);
-    for (int len : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 13, 14, 15, 17, 1030}) {
-      const auto     x = noise<F>(size_t(len), data);
-      std::vector<D> want(x.size());
-      ASSERT_EQ((filter_biquads<F>(x.data(), want.data(), len, biquad_state<F>(taps).get(), 0)), tavStatusOk);
-      for (const layout& l : len < 20 ? all_layouts() : few_layouts()) {
-        array<D> src(from, x.size(), l.src), dst(to, x.size(), l.dst);
-        src.assign(x);
-        ASSERT_EQ((filter_biquads<F>(src.data(), dst.data(), len, biquad_state<F>(taps).get(), 0)), tavStatusOk);
-        ASSERT_EQ(first_difference(dst.values(), want), -1) << len << " samples, " << l;
-        ASSERT_TRUE(dst.guards_intact() && src.guards_intact() && first_difference(src.values(), x) == -1) << l;
-        ASSERT_EQ((filter_biquads<F>(src.data(), src.data(), len, biquad_state<F>(taps).get(), 0)), tavStatusOk);
-        ASSERT_EQ(first_difference(src.values(), want), -1) << "in place, " << len << " samples, " << l;
-        ASSERT_TRUE(src.guards_intact());
-      }
-    }
-  }
+  check_biquad_layouts<TypeParam>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 13, 14, 15, 17, 1030}, 5);
 }
 
 // Another state that is given the delay line goes on as this one does; taps given to it later leave the line.
@@ -178,7 +156,7 @@ TYPED_TEST(Biquad, NewTapsInTheMiddleOfAStream) {
   auto                  y      = x;
   oracle::cascade       wanted = definition<F>(taps), next = definition<F>(others);
   const biquad_state<F> state(taps);
-  const long double     peak = !is_scaled<F> ? 1.5 : sizeof(part<typename F::sample>) == 4 ? 1.5e9 : 3e4;
+  const long double     peak = !takes_scale<F> ? 1.5 : sizeof(part_of<typename F::sample>) == 4 ? 1.5e9 : 3e4;
   const long double     error =
       20
       * (oracle::error_bound(wanted, peak, 400, epsilon_of<F>) + oracle::error_bound(next, peak, 400, epsilon_of<F>));
@@ -211,7 +189,7 @@ TEST(BiquadBlock, NothingBehindTheBlockShows) {
 // Filters on floats compute in the caller's rounding mode.
 TYPED_TEST(Biquad, TheCallersRoundingModeCounts) {
   using F = TypeParam;
-  if constexpr (!is_scaled<F>) {
+  if constexpr (!takes_scale<F>) {
     const std::vector<typename F::tap>    taps{narrowed<typename F::tap>({1 / 3.0L}), {}, {},
                                             narrowed<typename F::tap>({1}),        {}, {}};
     const auto                            value = narrowed<typename F::sample>({1 / 7.0L});

@@ -4,6 +4,7 @@
 #include "harness/arena.h"
 #include "harness/builds.h"
 #include "harness/data.h"
+#include "harness/parts.h"
 #include "harness/tavcore_fake.h"
 
 namespace test {
@@ -47,17 +48,9 @@ using fir_64fc_32sc = TAV_FIR_FAMILY(64fc_32sc, Tav64fc, Tav32sc, FIRState64fc_3
 using fir_64fc_16sc = TAV_FIR_FAMILY(64fc_16sc, Tav64fc, Tav16sc, FIRState64fc_16sc, _Sfs, _ISfs);
 #undef TAV_FIR_FAMILY
 
-template <class T> struct part_of_sample { using type = T; };
-template <class T>
-requires requires(T v) { v.re; }
-struct part_of_sample<T> {
-  using type = decltype(T::re);
-};
-template <class T> using sample_part                = typename part_of_sample<T>::type;
-template <class T> inline constexpr bool is_pair    = !std::is_same_v<T, sample_part<T>>;
-template <class F> inline constexpr bool is_integer = std::is_integral_v<sample_part<typename F::data>>;
+template <class F> inline constexpr bool is_integer = std::is_integral_v<part_of<typename F::data>>;
 // The precision of the sums: that of the taps, or doubles where they are integers.
-template <class F> inline constexpr bool in_singles = std::is_same_v<sample_part<typename F::taps>, float>;
+template <class F> inline constexpr bool in_singles = std::is_same_v<part_of<typename F::taps>, float>;
 
 template <class F, class D = typename F::data>
 TavStatus filter_block(const D* src, D* dst, int len, typename F::state* s, int scale) {
@@ -109,14 +102,14 @@ template <class F> class fir_filter {
 // Integers of at most `size`, so that sums of few products are exact, and drawn values of all kinds otherwise.
 template <class T> T whole(source_of_data& data, int size) {
   if constexpr (is_pair<T>)
-    return {whole<sample_part<T>>(data, size), whole<sample_part<T>>(data, size)};
+    return {whole<part_of<T>>(data, size), whole<part_of<T>>(data, size)};
   else
     return T(data.below(2 * size + 1) - size);
 }
 // Anything within one, and of integers anything.
 template <class T> T any_size(source_of_data& data) {
   if constexpr (is_pair<T>)
-    return {any_size<sample_part<T>>(data), any_size<sample_part<T>>(data)};
+    return {any_size<part_of<T>>(data), any_size<part_of<T>>(data)};
   else if constexpr (std::is_integral_v<T>)
     return T(data.bits());
   else

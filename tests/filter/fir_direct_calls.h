@@ -3,6 +3,7 @@
 #include "harness/arena.h"
 #include "harness/builds.h"
 #include "harness/data.h"
+#include "harness/parts.h"
 #include "oracle/fir_direct.h"
 
 namespace test::direct {
@@ -17,8 +18,6 @@ enum class way { block, in_place, singly, singly_in_place };
 inline constexpr int ways = 4;
 
 enum class kind { plain, scaled, factored };
-
-template <class T> inline constexpr bool is_pair = requires(T v) { v.re; };
 
 template <class Taps, class Data, class Sums, kind Kind, auto* Block, auto* InPlace, auto* One, auto* OneInPlace>
 struct family {

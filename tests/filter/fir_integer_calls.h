@@ -3,37 +3,15 @@
 #include <memory>
 #include <optional>
 
-#include "harness/arena.h"
-#include "harness/builds.h"
-#include "harness/data.h"
-#include "harness/tavcore_fake.h"
+#include "filter/fir_calls.h"
 #include "oracle/fir_integer.h"
 
 namespace test::words {
 
-template <class Taps, class Data, class State, auto* GetSize, auto* Init, auto* InitAlloc, auto* Free, auto* Block,
-          auto* InPlace, auto* One, auto* GetTaps, auto* SetTaps, auto* GetDly, auto* SetDly>
-struct family {
-  using taps                        = Taps;
-  using data                        = Data;
-  using state                       = State;
-  static constexpr auto* get_size   = GetSize;
-  static constexpr auto* init       = Init;
-  static constexpr auto* init_alloc = InitAlloc;
-  static constexpr auto* free       = Free;
-  static constexpr auto* block      = Block;
-  static constexpr auto* in_place   = InPlace;
-  static constexpr auto* one        = One;
-  static constexpr auto* get_taps   = GetTaps;
-  static constexpr auto* set_taps   = SetTaps;
-  static constexpr auto* get_dly    = GetDly;
-  static constexpr auto* set_dly    = SetDly;
-};
-
-#define TAV_WORD_FAMILY(form, taps, data, state)                                                           \
-  family<taps, data, state, &::tavsFIRGetStateSize##form, &::tavsFIRInit##form, &::tavsFIRInitAlloc##form, \
-         &::tavsFIRFree##form, &::tavsFIR##form##_Sfs, &::tavsFIR##form##_ISfs, &::tavsFIROne##form##_Sfs, \
-         &::tavsFIRGetTaps##form, &::tavsFIRSetTaps##form, &::tavsFIRGetDlyLine##form, &::tavsFIRSetDlyLine##form>
+#define TAV_WORD_FAMILY(form, taps, data, state)                                                               \
+  fir_family<taps, data, state, &::tavsFIRGetStateSize##form, &::tavsFIRInit##form, &::tavsFIRInitAlloc##form, \
+             &::tavsFIRFree##form, &::tavsFIR##form##_Sfs, &::tavsFIR##form##_ISfs, &::tavsFIROne##form##_Sfs, \
+             &::tavsFIRGetTaps##form, &::tavsFIRSetTaps##form, &::tavsFIRGetDlyLine##form, &::tavsFIRSetDlyLine##form>
 using fir_16s       = TAV_WORD_FAMILY(_16s, Tav16s, Tav16s, FIRState_16s);
 using fir_32s_16s   = TAV_WORD_FAMILY(32s_16s, Tav32s, Tav16s, FIRState32s_16s);
 using fir_32sc_16sc = TAV_WORD_FAMILY(32sc_16sc, Tav32sc, Tav16sc, FIRState32sc_16sc);

@@ -19,7 +19,7 @@ TYPED_TEST_SUITE(FirLayout, families);
 
 template <class T> T from_wide(const oracle::wide_pair& v) {
   if constexpr (is_pair<T>)
-    return {sample_part<T>(v.re), sample_part<T>(v.im)};
+    return {part_of<T>(v.re), part_of<T>(v.im)};
   else
     return T(v.re);
 }
@@ -98,7 +98,7 @@ TYPED_TEST(FirLayout, NeighboursHaveNoPart) {
   using D = typename F::data;
   if constexpr (!is_integer<F>) {
     each_build<F::block>([&] {
-      const sample_part<D> nan = std::numeric_limits<sample_part<D>>::quiet_NaN();
+      const part_of<D> nan = std::numeric_limits<part_of<D>>::quiet_NaN();
       for (int tapsLen : {1, 4, 6, 31, 32, 33, 34, 35, 48})
         for (int len = 1; len <= 130; ++len)
           for (size_t offset = 8; offset < 12; ++offset) {

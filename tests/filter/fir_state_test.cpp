@@ -143,7 +143,7 @@ TYPED_TEST(FirState, RemembersTheLastSamples) {
 
 // The order of sums depends on addresses.
 template <class F> bool alike(const std::vector<typename F::data>& a, const std::vector<typename F::data>& b) {
-  const double within = !is_integer<F> && !in_singles<F> && sizeof(sample_part<typename F::data>) == 8 ? 1e-12 : 1e-4;
+  const double within = !is_integer<F> && !in_singles<F> && sizeof(part_of<typename F::data>) == 8 ? 1e-12 : 1e-4;
   const auto   near   = [=](auto v, auto w) { return fabs(double(v) - double(w)) <= within; };
   for (size_t i = 0; i < a.size(); ++i) {
     if constexpr (is_pair<typename F::data>) {

@@ -55,7 +55,7 @@ template <class F> int usual_scale(const std::vector<typename F::taps>& h) {
   if constexpr (!is_integer<F>)
     return 0;
   else
-    return (std::is_integral_v<sample_part<typename F::taps>> ? 31 : 0) + int(h.size() > 4) + int(h.size() > 30);
+    return (std::is_integral_v<part_of<typename F::taps>> ? 31 : 0) + int(h.size() > 4) + int(h.size() > 30);
 }
 
 // What becomes of a piece of the stream.
@@ -91,7 +91,7 @@ template <class F> void check_stream(int tapsLen, const std::vector<int>& pieces
     run_piece(f, x.data() + done, y.data() + done, n, w, scale);
     done += size_t(n);
   }
-  const long double peak = is_integer<F> ? -(long double)std::numeric_limits<sample_part<D>>::min() : 1.0L;
+  const long double peak = is_integer<F> ? -(long double)std::numeric_limits<part_of<D>>::min() : 1.0L;
   for (size_t i = 0; i < total; ++i) {
     const auto want = oracle::fir(h, x, i);
     ASSERT_TRUE(agrees<F>(y[i], want, bound<F>(want, h, peak), scale)) << "sample " << i << " of " << total;

@@ -5,6 +5,7 @@
 
 #include "harness/builds.h"
 #include "harness/data.h"
+#include "harness/parts.h"
 #include "harness/tavcore_fake.h"
 #include "oracle/iir.h"
 
@@ -53,15 +54,6 @@ using iir_64fc_16sc = TAV_IIR_FORM(64fc_16sc, Tav64fc, Tav16sc, Tav64fc, _Sfs, _
 using iir_forms =
     testing::Types<iir_32f, iir_32fc, iir_32f_16s, iir_32fc_16sc, iir_32s_16s, iir_32sc_16sc, iir_64f, iir_64fc,
                    iir_64f_32f, iir_64fc_32fc, iir_64f_32s, iir_64fc_32sc, iir_64f_16s, iir_64fc_16sc>;
-
-template <class T> inline constexpr bool is_pair = requires(T v) { v.re; };
-template <class T> struct part_row { using type = T; };
-template <class T>
-requires is_pair<T>
-struct part_row<T> {
-  using type = decltype(T::re);
-};
-template <class T> using part_of = typename part_row<T>::type;
 
 template <class F> inline constexpr bool is_scaled    = std::is_integral_v<part_of<typename F::data>>;
 template <class F> inline constexpr bool integer_taps = std::is_integral_v<part_of<typename F::tap>>;

@@ -11,6 +11,7 @@
 
 #include "harness/faults.h"
 #include "harness/layouts.h"
+#include "harness/parts.h"
 #include "oracle/scale.h"
 
 namespace test {
@@ -34,8 +35,8 @@ struct sweep {
 
 // Integers of every magnitude, so that ties and saturation are frequent at every scale.
 template <class T> T of_any_magnitude(source_of_data& data) {
-  if constexpr (requires(T v) { v.re; })
-    return {of_any_magnitude<decltype(T::re)>(data), of_any_magnitude<decltype(T::im)>(data)};
+  if constexpr (is_pair<T>)
+    return {of_any_magnitude<part_of<T>>(data), of_any_magnitude<part_of<T>>(data)};
   else if constexpr (std::is_floating_point_v<T>)
     return data.value<T>();
   else if (data.below(3) == 0)
@@ -51,13 +52,6 @@ template <class T> std::vector<T> many_of_any_magnitude(source_of_data& data, si
   for (T& x : v) x = of_any_magnitude<T>(data);
   return v;
 }
-
-template <class T> struct part_of { using type = T; };
-template <class T>
-requires requires(T v) { v.re; }
-struct part_of<T> {
-  using type = decltype(T::re);
-};
 
 // Small enough to go through all its values.
 template <class T> inline constexpr bool enumerable = sizeof(T) <= 2 && std::is_integral_v<T>;
@@ -78,7 +72,7 @@ template <class T> std::vector<T> constants() {
     else
       all.push_back(v);
   };
-  using part = typename part_of<T>::type;
+  using part = part_of<T>;
   for (part v : {std::numeric_limits<part>::min(), part(std::numeric_limits<part>::min() + 1), part(-1), part(1),
                  part(2), std::numeric_limits<part>::max()})
     add(v);

@@ -58,13 +58,13 @@ inline Tav32f  single_of(exact sum, mode how) { return single_of(whole(sum), how
 inline Tav32fc single_of(const exact_pair& sum, mode how) { return {single_of(sum.re, how), single_of(sum.im, how)}; }
 
 // A sum and the sum of its terms' magnitudes.
-struct bounded {
+struct bounded_sum {
   long double sum = 0, magnitudes = 0;
 
   void add(long double a, long double b) { sum += a * b, magnitudes += fabsl(a * b); }
 };
 struct bounded_pair {
-  bounded re, im;
+  bounded_sum re, im;
 };
 
 template <class A, class B> bounded_pair float_dot(const std::vector<A>& a, const std::vector<B>& b) {

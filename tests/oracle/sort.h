@@ -8,10 +8,10 @@
 
 namespace oracle {
 
-enum class direction { up, down };
+enum class sort_way { up, down };
 
-template <class T> std::vector<T> sorted(std::vector<T> v, direction way) {
-  std::stable_sort(v.begin(), v.end(), [&](T a, T b) { return way == direction::up ? a < b : b < a; });
+template <class T> std::vector<T> sorted(std::vector<T> v, sort_way way) {
+  std::stable_sort(v.begin(), v.end(), [&](T a, T b) { return way == sort_way::up ? a < b : b < a; });
   return v;
 }
 
@@ -42,7 +42,7 @@ template <class T> bool any_nan(const std::vector<T>& v) {
 }
 
 // Index of the first element out of place, or -1. Zeros of both signs are one value; NaNs have no place.
-template <class T> long first_out_of_order(const std::vector<T>& before, const std::vector<T>& after, direction way) {
+template <class T> long first_out_of_order(const std::vector<T>& before, const std::vector<T>& after, sort_way way) {
   if (any_nan(before)) return -1;
   const auto want = sorted(before, way);
   for (size_t i = 0; i < want.size(); ++i)

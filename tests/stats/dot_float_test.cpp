@@ -57,7 +57,7 @@ template <auto* Export> void check_whole_numbers() {
 
 // n terms in any order: at most n roundings of partial sums, and two for each product, none of which is larger than all
 // magnitudes together.
-template <class F> void expect_near(F got, const oracle::bounded& sum, size_t n) {
+template <class F> void expect_near(F got, const oracle::bounded_sum& sum, size_t n) {
   const long double eps = std::numeric_limits<F>::epsilon() / 2;
   EXPECT_LE(fabsl(got - sum.sum), eps * (long double)(n + 1) * sum.magnitudes) << "of " << n;
 }

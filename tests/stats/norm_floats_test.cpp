@@ -1,6 +1,5 @@
 // tavsNorm, tavsNormDiff of floats: against the definition in extended precision, and bit for bit where nothing rounds;
 // NaNs and infinities at every place, squares beyond the range of singles, rounding modes, long sums.
-#include "harness/faults.h"
 #include "harness/forms.h"
 #include "stats/norm_forms.h"
 
@@ -232,8 +231,6 @@ TEST(NormOfFloats, LongSumsOfSingles) {
 }
 
 }  // namespace
-
-inline constexpr auto result_at_the_end = pointers_then_length_at<1>;
 
 #define CASE(form)                           \
   TAV_FAULTS(Norm_##form, result_at_the_end) \

@@ -1,5 +1,6 @@
 // Calls of norms, of one array or of the difference of two, by the signatures of the exports.
 #pragma once
+#include "harness/faults.h"
 #include "harness/layouts.h"
 #include "oracle/norms.h"
 
@@ -76,5 +77,8 @@ void check_places(norm_lengths lengths, const Right& right, const Draw& draw, Sc
     }
   });
 }
+
+inline constexpr auto result_at_the_end   = pointers_then_length_at<1>;
+inline constexpr auto scale_behind_result = pointers_then_length_at<2>;
 
 }  // namespace test

@@ -1,5 +1,4 @@
 // tavsNorm, tavsNormDiff of 16-bit elements: exactly, with every scale factor, in blocks and over millions of elements.
-#include "harness/faults.h"
 #include "harness/forms.h"
 #include "harness/scaled.h"
 #include "stats/norm_forms.h"
@@ -188,9 +187,6 @@ TEST(NormOfWords, RoundingModes) {
 }
 
 }  // namespace
-
-inline constexpr auto scale_behind_result = pointers_then_length_at<2>;
-inline constexpr auto result_at_the_end   = pointers_then_length_at<1>;
 
 #define CASE(form)                             \
   TAV_FAULTS(Norm_##form, scale_behind_result) \

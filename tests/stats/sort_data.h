@@ -6,6 +6,7 @@
 #include "harness/arena.h"
 #include "harness/builds.h"
 #include "harness/data.h"
+#include "harness/faults.h"
 #include "oracle/sort.h"
 
 namespace test {
@@ -111,7 +112,7 @@ inline placement place_of(unsigned k) {
 
 // One call on arrays at those places. Of one element nothing is written, its index included.
 template <auto* Export, class T>
-void check_sort(arena& values_home, arena& index_home, const std::vector<T>& before, oracle::direction way,
+void check_sort(arena& values_home, arena& index_home, const std::vector<T>& before, oracle::sort_way way,
                 unsigned place = 0) {
   using call_of  = sort_call<Export>;
   const size_t n = before.size();
@@ -132,7 +133,7 @@ void check_sort(arena& values_home, arena& index_home, const std::vector<T>& bef
 }
 
 // Over lengths and kinds, each at another place.
-template <auto* Export> void check_sorts(const std::vector<int>& lengths, oracle::direction way) {
+template <auto* Export> void check_sorts(const std::vector<int>& lengths, oracle::sort_way way) {
   using T              = typename sort_call<Export>::element;
   const size_t longest = size_t(*std::max_element(lengths.begin(), lengths.end()));
   arena        values(longest * sizeof(T)), index(longest * sizeof(int));
@@ -149,7 +150,7 @@ template <auto* Export> void check_sorts(const std::vector<int>& lengths, oracle
 
 // Every order of up to 8 different elements; every array of two values, of lengths on both sides of where ranges are
 // divided by the text-book.
-template <auto* Export> void check_small_sorts(oracle::direction way) {
+template <auto* Export> void check_small_sorts(oracle::sort_way way) {
   using T = typename sort_call<Export>::element;
   arena      values(64 * sizeof(T)), index(64 * sizeof(int));
   const auto check = [&](const std::vector<T>& v) { check_sort<Export>(values, index, v, way, unsigned(v.size())); };
@@ -171,7 +172,7 @@ template <auto* Export> void check_small_sorts(oracle::direction way) {
 }
 
 // A million, where the definition would take too long: order between neighbours is enough.
-template <auto* Export> void check_million(oracle::direction way) {
+template <auto* Export> void check_million(oracle::sort_way way) {
   using T        = typename sort_call<Export>::element;
   const size_t n = 1000000;
   each_build<Export>([&] {
@@ -181,9 +182,9 @@ template <auto* Export> void check_million(oracle::direction way) {
     std::vector<int> index(n);
     ASSERT_EQ(sort_call<Export>::run(after.data(), index.data(), int(n)), tavStatusOk);
     ASSERT_TRUE(oracle::collection::of(before) == oracle::collection::of(after));
-    if (way == oracle::direction::down) std::reverse(after.begin(), after.end());
+    if (way == oracle::sort_way::down) std::reverse(after.begin(), after.end());
     ASSERT_TRUE(std::is_sorted(after.begin(), after.end()));
-    if (way == oracle::direction::down) std::reverse(after.begin(), after.end());
+    if (way == oracle::sort_way::down) std::reverse(after.begin(), after.end());
     ASSERT_TRUE(!sort_call<Export>::with_indices || oracle::tells_places(index, before, after));
   });
 }
@@ -197,3 +198,21 @@ inline std::vector<int> sort_lengths() {
 inline const std::vector<int> long_sorts{511, 512, 513, 1000, 2047, 4099, 20011};
 
 }  // namespace test
+
+// The rows of the exports of one kind: their tests, which become tests of the same name, and their faults.
+#define TAV_SORT_CASE(Kind, type)                                                                                    \
+  TEST(Kind, SmallUp##type) { check_small_sorts<&::tavs##Kind##Ascend_##type##_I>(oracle::sort_way::up); }           \
+  TEST(Kind, SmallDown##type) { check_small_sorts<&::tavs##Kind##Descend_##type##_I>(oracle::sort_way::down); }      \
+  TEST(Kind, Up##type) { check_sorts<&::tavs##Kind##Ascend_##type##_I>(sort_lengths(), oracle::sort_way::up); }      \
+  TEST(Kind, Down##type) { check_sorts<&::tavs##Kind##Descend_##type##_I>(sort_lengths(), oracle::sort_way::down); } \
+  TEST(Kind, LongUp##type) { check_sorts<&::tavs##Kind##Ascend_##type##_I>(long_sorts, oracle::sort_way::up); }      \
+  TEST(Kind, LongDown##type) { check_sorts<&::tavs##Kind##Descend_##type##_I>(long_sorts, oracle::sort_way::down); } \
+  TAV_FAULTS(Kind##Ascend_##type##_I, pointers_then_length)                                                          \
+  TAV_FAULTS(Kind##Descend_##type##_I, pointers_then_length)
+#define TAV_SORT_CASES(Kind) \
+  TAV_SORT_CASE(Kind, 8u)    \
+  TAV_SORT_CASE(Kind, 16s)   \
+  TAV_SORT_CASE(Kind, 16u)   \
+  TAV_SORT_CASE(Kind, 32s)   \
+  TAV_SORT_CASE(Kind, 32f)   \
+  TAV_SORT_CASE(Kind, 64f)

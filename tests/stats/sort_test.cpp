@@ -1,34 +1,18 @@
 // tavsSortAscend, tavsSortDescend: against a stable sort by value; no element is lost, whatever the floats are.
-#include "harness/faults.h"
 #include "stats/sort_data.h"
 
 using namespace test;
-using oracle::direction;
+using oracle::sort_way;
 
-#define CASE(type)                                                                                        \
-  TEST(Sort, SmallUp##type) { check_small_sorts<&::tavsSortAscend_##type##_I>(direction::up); }           \
-  TEST(Sort, SmallDown##type) { check_small_sorts<&::tavsSortDescend_##type##_I>(direction::down); }      \
-  TEST(Sort, Up##type) { check_sorts<&::tavsSortAscend_##type##_I>(sort_lengths(), direction::up); }      \
-  TEST(Sort, Down##type) { check_sorts<&::tavsSortDescend_##type##_I>(sort_lengths(), direction::down); } \
-  TEST(Sort, LongUp##type) { check_sorts<&::tavsSortAscend_##type##_I>(long_sorts, direction::up); }      \
-  TEST(Sort, LongDown##type) { check_sorts<&::tavsSortDescend_##type##_I>(long_sorts, direction::down); } \
-  TAV_FAULTS(SortAscend_##type##_I, pointers_then_length)                                                 \
-  TAV_FAULTS(SortDescend_##type##_I, pointers_then_length)
-CASE(8u)
-CASE(16s)
-CASE(16u)
-CASE(32s)
-CASE(32f)
-CASE(64f)
-#undef CASE
+TAV_SORT_CASES(Sort)
 
 namespace {
 
 TEST(Sort, AMillion) {
-  check_million<&::tavsSortAscend_8u_I>(direction::up);
-  check_million<&::tavsSortDescend_16s_I>(direction::down);
-  check_million<&::tavsSortAscend_32f_I>(direction::up);
-  check_million<&::tavsSortDescend_64f_I>(direction::down);
+  check_million<&::tavsSortAscend_8u_I>(sort_way::up);
+  check_million<&::tavsSortDescend_16s_I>(sort_way::down);
+  check_million<&::tavsSortAscend_32f_I>(sort_way::up);
+  check_million<&::tavsSortDescend_64f_I>(sort_way::down);
 }
 
 // Where a thread counts denormals as zeros, doubles among them have no order; none may be lost.

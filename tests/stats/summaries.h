@@ -56,8 +56,8 @@ inline std::set<int> block_lengths() {
   return lengths;
 }
 
-template <class T> std::vector<typename part_of<T>::type> parts_of(const std::vector<T>& v, bool im) {
-  std::vector<typename part_of<T>::type> parts;
+template <class T> std::vector<part_of<T>> parts_of(const std::vector<T>& v, bool im) {
+  std::vector<part_of<T>> parts;
   for (const T& x : v) {
     if constexpr (requires { x.re; })
       parts.push_back(im ? x.im : x.re);
@@ -79,7 +79,7 @@ template <class T, class D, class Check> void by_parts(const std::vector<T>& src
 
 // Values of ordinary size about an offset.
 template <class T> std::vector<T> ordinary(source_of_data& data, size_t n, double offset = 0) {
-  const auto     value = [&] { return typename part_of<T>::type(offset + double(int32_t(data.bits())) / 0x1p31); };
+  const auto     value = [&] { return part_of<T>(offset + double(int32_t(data.bits())) / 0x1p31); };
   std::vector<T> v(n);
   for (T& x : v) {
     if constexpr (requires { x.re; })

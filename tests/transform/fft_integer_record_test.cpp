@@ -4,6 +4,7 @@
 
 #include "transform/fft_faults.h"
 #include "transform/fft_integer_calls.h"
+#include "transform/fft_records.h"
 
 using namespace test;
 
@@ -14,35 +15,7 @@ template <class F> class FftIntegerRecord : public testing::Test {};
 using forms = testing::Types<fwd_16sc, fwd_16s, fwd_32sc, fwd_32s, fwd_ccs_16s, fwd_ccs_32s, fwd_16s32s>;
 TYPED_TEST_SUITE(FftIntegerRecord, forms);
 
-struct sizes {
-  int  spec, init, work;
-  bool operator==(const sizes&) const = default;
-};
-std::ostream& operator<<(std::ostream& out, const sizes& s) {
-  return out << s.spec << ", " << s.init << ", " << s.work;
-}
-
-template <class R> sizes sizes_of(int order, int hint) {
-  sizes s{};
-  EXPECT_EQ(call<R::get_size>(order, fftScaleNone, hint, &s.spec, &s.init, &s.work), tavStatusOk);
-  return s;
-}
-
-struct reference {
-  int   order, hint;
-  sizes v8, s8;
-};
-
-template <class R> void check_sizes(const std::vector<reference>& rows) {
-  each_build<R::get_size>([&] {
-    int        x;  // the variant shows in the greatest order of the 64-bit records
-    const bool v8 = call<&::tavsFFTGetSize_C_64fc>(27, fftScaleNone, 0, &x, &x, &x) == tavStatusOk;
-    for (const reference& r : rows)
-      EXPECT_EQ(sizes_of<R>(r.order, r.hint), v8 ? r.v8 : r.s8) << "order " << r.order << ", hint " << r.hint;
-  });
-}
-
-reference alike(int order, int hint, sizes both) { return {order, hint, both, both}; }
+sizes_row alike(int order, int hint, record_sizes both) { return {order, both, both, hint}; }
 
 TEST(FftIntegerSizes, C_16sc) {
   for (int hint : {0, 1, 2, -1, -16}) check_sizes<record_16sc>({alike(0, hint, {116, 0, 0})});
@@ -64,52 +37,28 @@ TEST(FftIntegerSizes, R_16s) {
 TEST(FftIntegerSizes, C_32sc) {
   check_sizes<record_32sc>({alike(0, 0, {288, 0, 80}),
                             alike(3, 0, {288, 0, 192}),
-                            {6, 0, {1536, 0, 2176}, {1536, 0, 1088}},
-                            {12, 0, {70080, 8384, 131200}, {70080, 8384, 65600}}});
+                            {6, {1536, 0, 2176}, {1536, 0, 1088}},
+                            {12, {70080, 8384, 131200}, {70080, 8384, 65600}}});
 }
 TEST(FftIntegerSizes, C_32s) {
-  check_sizes<record_32s>({alike(3, 5, {288, 0, 192}), {6, 0, {1536, 0, 2176}, {1536, 0, 1088}}});
+  check_sizes<record_32s>({alike(3, 5, {288, 0, 192}), {6, {1536, 0, 2176}, {1536, 0, 1088}}});
 }
 TEST(FftIntegerSizes, R_32s) {
   check_sizes<record_r32s>(
-      {alike(0, 0, {288, 0, 88}), alike(3, 0, {288, 0, 144}), {7, 0, {2560, 0, 2192}, {2560, 0, 1104}}});
+      {alike(0, 0, {288, 0, 88}), alike(3, 0, {288, 0, 144}), {7, {2560, 0, 2192}, {2560, 0, 1104}}});
 }
 TEST(FftIntegerSizes, R_16s32s) {
   check_sizes<record_r16s32s>({alike(0, 0, {280, 0, 76}), alike(6, 0, {576, 0, 328})});
 }
 
-// Set-up and a call in blocks of just these sizes, between guard bytes and at all kinds of addresses.
-template <class F> void check_set_up(int order, int hint, unsigned offset) {
-  using R               = typename F::record;
-  const sizes  size     = sizes_of<R>(order, hint);
-  const size_t n        = size_t(1) << order;
-  const auto   block_at = [&](arena& home, int bytes) {
-    return array<Tav8u>(home, size_t(bytes), {placement::inside, offset});
-  };
-  arena      spec_home(size_t(size.spec) + 64), init_home(size_t(size.init) + 64), work_home(size_t(size.work) + 64);
-  const auto spec = block_at(spec_home, size.spec), init = block_at(init_home, size.init),
-             work = block_at(work_home, size.work);
-
-  typename R::record* ctx = nullptr;
-  ASSERT_EQ(call<R::init>(&ctx, order, fftScaleNone, hint, spec.data(), size.init == 0 ? nullptr : init.data()), 0);
-  ASSERT_TRUE(spec.guards_intact() && init.guards_intact());
-  EXPECT_EQ(uintptr_t(ctx) % 64, 0u);
-  EXPECT_LT(uintptr_t(ctx) - uintptr_t(spec.data()), 64u);
-  const std::vector<Tav8u> record = spec.values();
-
-  int buf_size = -1;
-  EXPECT_EQ(call<R::get_buf_size>(ctx, &buf_size), tavStatusOk);
-  EXPECT_EQ(buf_size, size.work);
-  std::vector<typename F::src> x(elements(F::from, n), 1);
-  std::vector<typename F::dst> y(elements(F::to, n));
-  ASSERT_EQ(F::run(x.data(), y.data(), n, ctx, 0, work.data()), tavStatusOk);
-  EXPECT_TRUE(work.guards_intact());
-  EXPECT_EQ(y[0], std::min<long>(long(n), std::numeric_limits<typename F::dst>::max()));
-  EXPECT_EQ(spec.values(), record) << "a call changed the record";
-
-  EXPECT_EQ(call<R::free>(ctx), tavStatusOk);
-  EXPECT_EQ(call<R::free>(ctx), tavStatusBadContext);
-  EXPECT_TRUE(spec.guards_intact());
+template <class F> void check_keeping(int order, int hint, unsigned offset) {
+  check_set_up<typename F::record>(order, hint, offset, [&](auto* ctx, Tav8u* work) {
+    const size_t                 n = size_t(1) << order;
+    std::vector<typename F::src> x(elements(F::from, n), 1);
+    std::vector<typename F::dst> y(elements(F::to, n));
+    ASSERT_EQ(F::run(x.data(), y.data(), n, ctx, 0, work), tavStatusOk);
+    EXPECT_EQ(y[0], std::min<long>(long(n), std::numeric_limits<typename F::dst>::max()));
+  });
 }
 
 TYPED_TEST(FftIntegerRecord, KeepsToItsSizes) {
@@ -118,7 +67,7 @@ TYPED_TEST(FftIntegerRecord, KeepsToItsSizes) {
       for (int hint : {0, 1, 2, -16})
         for (unsigned offset : {0u, 1u, 8u, 15u}) {
           SCOPED_TRACE(testing::Message() << "order " << order << ", hint " << hint << ", offset " << offset);
-          if (order < 8 || (offset == 1 && hint == 0)) check_set_up<TypeParam>(order, hint, offset);
+          if (order < 8 || (offset == 1 && hint == 0)) check_keeping<TypeParam>(order, hint, offset);
           if (this->HasFatalFailure()) return;
         }
   });
@@ -142,7 +91,7 @@ TYPED_TEST(FftIntegerRecord, SizeQueryChecksInOrder) {
         EXPECT_EQ(call<R::get_size>(order, flag, 0, &a, &b, &c), tavStatusBadFlag);
     }
     EXPECT_EQ(call<R::get_size>(greatest<R> + 1, fftScaleBoth, 0, &a, &b, &c), tavStatusBadOrder);
-    EXPECT_EQ((sizes{a, b, c}), (sizes{-7, -7, -7}));
+    EXPECT_EQ((record_sizes{a, b, c}), (record_sizes{-7, -7, -7}));
   });
 }
 
@@ -214,35 +163,7 @@ TYPED_TEST(FftIntegerRecord, InitWantsItsSetUpArea) {
 
 TYPED_TEST(FftIntegerRecord, InitAllocTakesAndGivesBack) {
   using R = typename TypeParam::record;
-  each_build<R::init_alloc>([&] {
-    typename R::record*        ctx  = nullptr;
-    typename R::record** const none = nullptr;
-    EXPECT_EQ(call<R::init_alloc>(none, 31, 3, 0), tavStatusNullPointer);
-    EXPECT_EQ(call<R::init_alloc>(&ctx, 31, 3, 0), tavStatusBadOrder);
-    EXPECT_EQ(call<R::init_alloc>(&ctx, greatest<R> + 1, 3, 0), tavStatusBadFlag);
-    EXPECT_EQ(call<R::init_alloc>(&ctx, greatest<R> + 1, fftScaleNone, 0), tavStatusBadOrder);
-    for (int order : {0, 2, 4, 8, 12}) {
-      const sizes size   = sizes_of<R>(order, 0);
-      const int   blocks = size.init == 0 ? 1 : 2;
-      for (int granted = 0; granted < blocks; ++granted) {
-        tavcore_fake_reset();
-        tavcore_fake_refuse_after(granted);
-        EXPECT_EQ(call<R::init_alloc>(&ctx, order, fftScaleNone, 0), tavStatusNoMemory);
-        EXPECT_EQ(tavcore_fake_read().live, 0);
-        EXPECT_EQ(ctx, nullptr);
-      }
-      tavcore_fake_reset();
-      ASSERT_EQ(call<R::init_alloc>(&ctx, order, fftScaleNone, 0), tavStatusOk);
-      EXPECT_EQ(tavcore_fake_read().allocations, blocks) << "order " << order;
-      EXPECT_EQ(tavcore_fake_read().last_size, blocks == 1 ? size.spec : size.init);
-      EXPECT_EQ(tavcore_fake_read().live, 1);
-      EXPECT_EQ(call<R::free>(ctx), tavStatusOk);
-      EXPECT_EQ(tavcore_fake_read().live, 0);
-      EXPECT_EQ(tavcore_fake_read().damaged, 0);
-      ctx = nullptr;
-    }
-    tavcore_fake_reset();
-  });
+  check_init_alloc<R>({0, 2, 4, 8, 12}, greatest<R>);
 }
 
 // Without a work area a call allocates once, and gives back; refused, it writes nothing. With one it allocates nothing.
@@ -278,26 +199,7 @@ TYPED_TEST(FftIntegerRecord, CallsAllocateWhereTheyMust) {
   });
 }
 
-TYPED_TEST(FftIntegerRecord, SetUpInEveryRoundingMode) {
-  using R = typename TypeParam::record;
-  each_build<R::init>([&] {
-    for (int order : {3, 7, 11}) {
-      const sizes                     size = sizes_of<R>(order, 2);
-      std::vector<Tav8u>              mem(size_t(size.spec)), init(size_t(size.init));
-      std::vector<std::vector<Tav8u>> made;
-      const uint32_t                  mine = _mm_getcsr();
-      for (uint32_t mode : {0x0000u, 0x2000u, 0x4000u, 0x6000u}) {
-        typename R::record* ctx = nullptr;
-        _mm_setcsr(mine | mode);
-        const TavStatus status = call<R::init>(&ctx, order, fftScaleBoth, 2, mem.data(), init.data());
-        _mm_setcsr(mine);
-        EXPECT_EQ(status, tavStatusOk);
-        made.push_back(mem);
-        EXPECT_EQ(made.back(), made.front()) << "order " << order << ", mode " << mode;
-      }
-    }
-  });
-}
+TYPED_TEST(FftIntegerRecord, SetUpInEveryRoundingMode) { check_set_up_in_every_mode<typename TypeParam::record>(2); }
 
 }  // namespace
 

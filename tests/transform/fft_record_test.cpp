@@ -4,6 +4,7 @@
 
 #include "transform/fft_calls.h"
 #include "transform/fft_faults.h"
+#include "transform/fft_records.h"
 
 using namespace test;
 
@@ -16,33 +17,6 @@ using families = testing::Types<fft_32fc, fft_32f, fft_64fc, fft_64f, fft_perm_3
 // yet.
 template <class F> constexpr int greatest = (sizeof(typename F::part) == 4 ? 28 : 27) + is_real<F>;
 TYPED_TEST_SUITE(FftRecord, families);
-
-struct sizes {
-  int  spec, init, work;
-  bool operator==(const sizes&) const = default;
-};
-std::ostream& operator<<(std::ostream& out, const sizes& s) {
-  return out << s.spec << ", " << s.init << ", " << s.work;
-}
-
-template <class F> sizes sizes_of(int order) {
-  sizes s{};
-  EXPECT_EQ(call<F::get_size>(order, fftScaleNone, 0, &s.spec, &s.init, &s.work), tavStatusOk);
-  return s;
-}
-
-struct reference {
-  int   order;
-  sizes v8, s8;
-};
-
-template <class F> void check_sizes(const std::vector<reference>& rows) {
-  each_build<F::get_size>([&] {
-    int        limit, x;  // the variant shows in the greatest order of the 64-bit records
-    const bool v8 = call<&::tavsFFTGetSize_C_64fc>(27, fftScaleNone, 0, &limit, &x, &x) == tavStatusOk;
-    for (const reference& r : rows) EXPECT_EQ(sizes_of<F>(r.order), v8 ? r.v8 : r.s8) << "order " << r.order;
-  });
-}
 
 template <class F> void check_single_sizes() {
   check_sizes<F>({{0, {152, 0, 0}, {152, 0, 0}},
@@ -82,37 +56,14 @@ TEST(FftRecordSizes, As64f) { check_double_sizes<fft_64f>(); }
 TEST(FftRecordSizes, AsReal32f) { check_real_single_sizes<fft_perm_32f>(); }
 TEST(FftRecordSizes, AsReal64f) { check_real_double_sizes<fft_perm_64f>(); }
 
-// Set-up and a call in blocks of just these sizes, between guard bytes and at all kinds of addresses.
-template <class F> void check_set_up(int order, unsigned offset) {
-  using T               = typename F::part;
-  const sizes  size     = sizes_of<F>(order);
-  const size_t n        = size_t(1) << order;
-  const auto   block_at = [&](arena& home, int bytes) {
-    return array<Tav8u>(home, size_t(bytes), {placement::inside, offset});
-  };
-  arena      spec_home(size_t(size.spec) + 64), init_home(size_t(size.init) + 64), work_home(size_t(size.work) + 64);
-  const auto spec = block_at(spec_home, size.spec), init = block_at(init_home, size.init),
-             work = block_at(work_home, size.work);
-
-  typename F::record* ctx = nullptr;
-  ASSERT_EQ(call<F::init>(&ctx, order, fftScaleNone, 0, spec.data(), size.init == 0 ? nullptr : init.data()), 0);
-  ASSERT_TRUE(spec.guards_intact() && init.guards_intact());
-  EXPECT_EQ(uintptr_t(ctx) % 64, 0u);
-  EXPECT_LT(uintptr_t(ctx) - uintptr_t(spec.data()), 64u);
-  const std::vector<Tav8u> record = spec.values();
-
-  int buf_size = -1;
-  EXPECT_EQ(call<F::get_buf_size>(ctx, &buf_size), tavStatusOk);
-  EXPECT_EQ(buf_size, size.work);
-  std::vector<T> x(2 * n, T(1));
-  ASSERT_EQ((run_fft<F, false>(x.data(), x.data(), n, ctx, work.data())), tavStatusOk);
-  EXPECT_TRUE(work.guards_intact());
-  EXPECT_EQ(x[0], T(n));
-  EXPECT_EQ(spec.values(), record) << "a call changed the record";
-
-  EXPECT_EQ(call<F::free>(ctx), tavStatusOk);
-  EXPECT_EQ(call<F::free>(ctx), tavStatusBadContext);
-  EXPECT_TRUE(spec.guards_intact());
+template <class F> void check_keeping(int order, unsigned offset) {
+  using T = typename F::part;
+  check_set_up<F>(order, 0, offset, [&](auto* ctx, Tav8u* work) {
+    const size_t   n = size_t(1) << order;
+    std::vector<T> x(2 * n, T(1));
+    ASSERT_EQ((run_fft<F, false>(x.data(), x.data(), n, ctx, work)), tavStatusOk);
+    EXPECT_EQ(x[0], T(n));
+  });
 }
 
 TYPED_TEST(FftRecord, KeepsToItsSizes) {
@@ -120,7 +71,7 @@ TYPED_TEST(FftRecord, KeepsToItsSizes) {
     for (int order = 0; order <= 20; ++order)
       for (unsigned offset : {0u, 1u, 8u, 15u}) {
         SCOPED_TRACE(testing::Message() << "order " << order << ", offset " << offset);
-        if (order < 16 || offset == 1) check_set_up<TypeParam>(order, offset);
+        if (order < 16 || offset == 1) check_keeping<TypeParam>(order, offset);
         if (this->HasFatalFailure()) return;
       }
   });
@@ -141,7 +92,7 @@ TYPED_TEST(FftRecord, SizeQueryChecksInOrder) {
         EXPECT_EQ(call<F::get_size>(order, flag, 0, &a, &b, &c), tavStatusBadFlag);
     }
     EXPECT_EQ(call<F::get_size>(greatest<F> + 1, fftScaleBoth, 0, &a, &b, &c), tavStatusBadOrder);
-    EXPECT_EQ((sizes{a, b, c}), (sizes{-7, -7, -7}));
+    EXPECT_EQ((record_sizes{a, b, c}), (record_sizes{-7, -7, -7}));
     for (int hint : {0, 1, 2, -16}) EXPECT_EQ(call<F::get_size>(4, fftScaleBoth, hint, &a, &b, &c), tavStatusOk);
   });
 }
@@ -184,57 +135,9 @@ TYPED_TEST(FftRecord, InitChecksInOrder) {
   });
 }
 
-TYPED_TEST(FftRecord, InitAllocTakesAndGivesBack) {
-  using F = TypeParam;
-  each_build<F::init_alloc>([&] {
-    typename F::record*        ctx  = nullptr;
-    typename F::record** const none = nullptr;
-    EXPECT_EQ(call<F::init_alloc>(none, 31, 3, 0), tavStatusNullPointer);
-    EXPECT_EQ(call<F::init_alloc>(&ctx, 31, 3, 0), tavStatusBadOrder);
-    EXPECT_EQ(call<F::init_alloc>(&ctx, greatest<F> + 1, 3, 0), tavStatusBadFlag);
-    EXPECT_EQ(call<F::init_alloc>(&ctx, greatest<F> + 1, fftScaleNone, 0), tavStatusBadOrder);
-    for (int order : {4, 8, 12}) {
-      const int blocks = order < 11 ? 1 : 2;
-      for (int granted = 0; granted < blocks; ++granted) {
-        tavcore_fake_reset();
-        tavcore_fake_refuse_after(granted);
-        EXPECT_EQ(call<F::init_alloc>(&ctx, order, fftScaleNone, 0), tavStatusNoMemory);
-        EXPECT_EQ(tavcore_fake_read().live, 0);
-        EXPECT_EQ(ctx, nullptr);
-      }
-      tavcore_fake_reset();
-      ASSERT_EQ(call<F::init_alloc>(&ctx, order, fftScaleNone, 0), tavStatusOk);
-      EXPECT_EQ(tavcore_fake_read().allocations, blocks);
-      EXPECT_EQ(tavcore_fake_read().live, 1);
-      EXPECT_EQ(call<F::free>(ctx), tavStatusOk);
-      EXPECT_EQ(tavcore_fake_read().live, 0);
-      EXPECT_EQ(tavcore_fake_read().damaged, 0);
-      ctx = nullptr;
-    }
-    tavcore_fake_reset();
-  });
-}
+TYPED_TEST(FftRecord, InitAllocTakesAndGivesBack) { check_init_alloc<TypeParam>({4, 8, 12}, greatest<TypeParam>); }
 
-TYPED_TEST(FftRecord, SameInEveryRoundingMode) {
-  using F = TypeParam;
-  each_build<F::init>([&] {
-    for (int order : {3, 7, 11}) {
-      const sizes                     size = sizes_of<F>(order);
-      std::vector<Tav8u>              mem(size_t(size.spec)), init(size_t(size.init));
-      std::vector<std::vector<Tav8u>> made;
-      const uint32_t                  mine = _mm_getcsr();
-      for (uint32_t mode : {0x0000u, 0x2000u, 0x4000u, 0x6000u}) {
-        typename F::record* ctx = nullptr;
-        _mm_setcsr(mine | mode);
-        const TavStatus status = call<F::init>(&ctx, order, fftScaleBoth, 0, mem.data(), init.data());
-        _mm_setcsr(mine);
-        EXPECT_EQ(status, tavStatusOk);
-        made.push_back(mem);
-        EXPECT_EQ(made.back(), made.front()) << "order " << order << ", mode " << mode;
-      }
-    }
-  });
-}
+TYPED_TEST(FftRecord, SameInEveryRoundingMode) { check_set_up_in_every_mode<TypeParam>(0); }
 
 // Without a work area a call allocates, and gives back; refused, it writes nothing.
 TYPED_TEST(FftRecord, CallsAllocateWhereTheyMust) {

@@ -5,14 +5,13 @@
 
 #include "harness/division.h"
 #include "harness/forms.h"
+#include "harness/parts.h"
 #include "harness/threshold.h"
 
 using namespace test;
 using oracle::side;
 
 namespace {
-
-template <class T> using part_of = decltype(T::re);
 
 template <class T>
 const auto some_level = [](source_of_data& data) { return std::tuple{magnitude_level<part_of<T>>(data)}; };

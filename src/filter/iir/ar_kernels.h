@@ -17,7 +17,7 @@ TAV_INLINE void add_weighted(reg<A> (&direct)[Registers], reg<A> (&cross)[Regist
   for (int g = 0; g < Registers; ++g) {
     const reg<A> v = load_register(x + g * samples_per_register<A>), product = v * f.re;
     direct[g] = First ? product : direct[g] + product;
-    if constexpr (is_pair<A>) cross[g] = First ? v * f.im : cross[g] + v * f.im;
+    if constexpr (is_complex<A>) cross[g] = First ? v * f.im : cross[g] + v * f.im;
   }
 }
 
@@ -37,14 +37,14 @@ template <int Registers, class A> TAV_INLINE void weighted_sums(const A* factors
   }
 #pragma GCC unroll 4
   for (int g = 0; g < Registers; ++g) {
-    if constexpr (is_pair<A>) direct[g] -= parts_exchanged(cross[g]);
+    if constexpr (is_complex<A>) direct[g] -= parts_exchanged(cross[g]);
     store_register(w + g * samples_per_register<A>, direct[g]);
   }
 }
 
 // count is at least a register's worth; the last one overlaps what has been done.
 template <int Order, class A> void numerator(const A* factors, size_t any_order, const A* x, A* w, size_t count) {
-  constexpr int    at_once = is_pair<A> ? 2 : 4;  // registers
+  constexpr int    at_once = is_complex<A> ? 2 : 4;  // registers
   constexpr size_t single = samples_per_register<A>, many = at_once * single;
   const size_t     order = Order == 0 ? any_order : Order;
   size_t           j     = 0;
@@ -79,7 +79,7 @@ template <class A> TAV_INLINE void add_older(quad<A>& sum, const A* rows, size_t
   for (size_t i = order; i-- > 4;) {
     const A* const row  = rows + i * row_samples<A>;
     const A        past = peek(y - 1 - i);
-    if constexpr (is_pair<A>) {
+    if constexpr (is_complex<A>) {
       add<A>(sum, product(row, all_lanes(past.re)));
       add<A>(sum, product(row + 4, all_lanes(past.im)));
     } else {

@@ -43,7 +43,7 @@ template <class A> void make_look_ahead(const A* a, size_t order, A* table) {
   for (size_t i = 0; i < order; ++i) {
     A* const row = table + i * row_samples<A>;
     look_ahead_weights(a, order, i, row);
-    if constexpr (is_pair<A>)
+    if constexpr (is_complex<A>)
       for (size_t j = 0; j < 4; ++j) row[4 + j] = times_i(row[j]);
   }
   A* const tail = table + order * row_samples<A>;

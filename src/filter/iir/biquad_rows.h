@@ -43,7 +43,7 @@ template <class A> void store_row(section_rows<A>& rows, int row, const A (&c)[l
     for (int k = layout::first(row) * layout::samples; k < look_ahead; ++k) {
       A& to = rows.entry[layout::index(row, part, k / layout::samples) * layout::samples + k % layout::samples];
       to    = c[k];
-      if constexpr (is_pair<A>)
+      if constexpr (is_complex<A>)
         if (part == 1) to = {-c[k].im, c[k].re};
     }
 }

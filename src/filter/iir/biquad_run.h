@@ -83,7 +83,7 @@ void run_pass(const channels<A, Channels>& data, size_t first, size_t n) {
 // The sections of one channel from `first` on: the first pass reads src, the others are in place. A section of complex
 // samples is work enough by itself.
 template <class Form, class A> void run_from(const cascade<A>& c, int first, const A* src, A* dst, size_t n) {
-  constexpr int at_once = is_pair<A> ? 1 : 2;
+  constexpr int at_once = is_complex<A> ? 1 : 2;
   for (; first + at_once <= c.sections; first += at_once, src = dst)
     run_pass<Form, A, 1, at_once>({{&c}, {src}, {dst}}, size_t(first), n);
   if (first < c.sections) run_pass<Form, A, 1, 1>({{&c}, {src}, {dst}}, size_t(first), n);

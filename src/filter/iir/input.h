@@ -21,7 +21,7 @@ template <class D, class A> void widen(const D* src, A* dst, size_t n) {
 }
 
 template <class A, class D> A widened(D v) {
-  if constexpr (is_pair<D>)
+  if constexpr (is_complex<D>)
     return {part<A>(v.re), part<A>(v.im)};
   else
     return A(v);

@@ -76,7 +76,7 @@ template <class Stage, class A, class D> void narrow(const Stage& stage, const A
 }
 
 template <class D, class Stage, class A> D narrowed(const Stage& stage, A v) {
-  if constexpr (is_pair<A>)
+  if constexpr (is_complex<A>)
     return {stage.one(v.re), stage.one(v.im)};
   else
     return stage.one(v);

@@ -9,31 +9,31 @@
 namespace tav::TAV_VARIANT::iir {
 
 template <class A> TAV_INLINE A plus(A a, A b) {
-  if constexpr (is_pair<A>)
+  if constexpr (is_complex<A>)
     return {a.re + b.re, a.im + b.im};
   else
     return a + b;
 }
 template <class A> TAV_INLINE A minus(A a, A b) {
-  if constexpr (is_pair<A>)
+  if constexpr (is_complex<A>)
     return {a.re - b.re, a.im - b.im};
   else
     return a - b;
 }
 template <class A> TAV_INLINE A times(A a, A b) {
-  if constexpr (is_pair<A>)
+  if constexpr (is_complex<A>)
     return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
   else
     return a * b;
 }
 template <class A> TAV_INLINE A negated(A a) {
-  if constexpr (is_pair<A>)
+  if constexpr (is_complex<A>)
     return {-a.re, -a.im};
   else
     return -a;
 }
 template <class A> TAV_INLINE bool is_zero(A a) {
-  if constexpr (is_pair<A>)
+  if constexpr (is_complex<A>)
     return equals(a.re, 0) && equals(a.im, 0);
   else
     return equals(a, 0);
@@ -41,7 +41,7 @@ template <class A> TAV_INLINE bool is_zero(A a) {
 
 // Of complex numbers by the ratio of the parts, which cannot overflow where the result does not.
 template <class A> A reciprocal(A a) {
-  if constexpr (!is_pair<A>) {
+  if constexpr (!is_complex<A>) {
     return 1 / a;
   } else if (__builtin_fabs(a.re) >= __builtin_fabs(a.im)) {
     const part<A> ratio = a.im / a.re, divisor = a.re + a.im * ratio;
@@ -105,7 +105,7 @@ template <class A> struct factor {
   static constexpr int samples = parts<A> * samples_per_register<A>;  // that a factor takes the room of
 
   explicit TAV_INLINE factor(A v) {
-    if constexpr (is_pair<A>) {
+    if constexpr (is_complex<A>) {
       re = all_lanes(v.re);
       im = signs(v.im);
     } else {
@@ -113,15 +113,15 @@ template <class A> struct factor {
     }
   }
   explicit TAV_INLINE factor(const A* table) : re(load_aligned(table)) {
-    if constexpr (is_pair<A>) im = load_aligned(table + samples_per_register<A>);
+    if constexpr (is_complex<A>) im = load_aligned(table + samples_per_register<A>);
   }
   TAV_INLINE void store(A* table) const {
     store_register(table, re);
-    if constexpr (is_pair<A>) store_register(table + samples_per_register<A>, im);
+    if constexpr (is_complex<A>) store_register(table + samples_per_register<A>, im);
   }
 
   TAV_INLINE reg<A> operator*(reg<A> v) const {
-    if constexpr (is_pair<A>)
+    if constexpr (is_complex<A>)
       return v * re + parts_exchanged(v) * im;
     else
       return v * re;

@@ -49,9 +49,7 @@ template <class State> using tap_of                   = typename form<State>::ta
 template <class State> inline constexpr bool is_mixed = form<State>::mixed;
 
 // Complex samples are pairs of parts.
-template <class T> using part                    = part_of<T>;
-template <class T> inline constexpr bool is_pair = !std::is_same_v<part<T>, T>;
-template <class T> inline constexpr int  parts   = is_pair<T> ? 2 : 1;
+template <class T> using part = part_of<T>;
 
 template <class State> inline constexpr bool is_narrowed = std::is_integral_v<part<data_of<State>>>;
 

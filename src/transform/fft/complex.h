@@ -5,11 +5,6 @@
 
 namespace tav::TAV_VARIANT::fft {
 
-template <class C> auto* parts_of(C* p) {
-  using part = decltype(C::re);
-  return reinterpret_cast<std::conditional_t<std::is_const_v<C>, const part*, part*>>(p);
-}
-
 // Apart, so that the short transforms do not pay for its frame.
 template <direction Towards, class C, class Record>
 __attribute__((noinline)) TavStatus interleaved_with_area(const C* src, C* dst, const Record* ctx, Tav8u* buf) {

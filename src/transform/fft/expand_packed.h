@@ -46,7 +46,7 @@ template <class C> struct mirrored {
   }
   TAV_INLINE void vector() {
     const auto v = load<access::unaligned, step>(from + left - step);
-    store<access::unaligned>(end - left, pairs_turned<C>(as_bits(conjugate_of<C>::many(v))));
+    store<access::unaligned>(end - left, reversed<sizeof(C)>(as_bits(conjugate_of<C>::many(v))));
     left -= step;
   }
   TAV_INLINE size_t to_boundary() const { return -pairs_past_boundary(end - left) & (step - 1); }
@@ -87,7 +87,7 @@ template <class Format, class C> TAV_INLINE C end_at(const part_of<C>* slots, si
 template <class Format, class C> TavStatus expanded(const C* src, C* dst, int len) {
   if (const TavStatus bad = check_vector(len, src, dst)) return bad;
   const size_t n = size_t(len), count = pairs_between(n);
-  const auto   slots  = reinterpret_cast<const part_of<C>*>(src);
+  const auto   slots  = parts_of(src);
   const C      first  = end_at<Format, C>(slots, 0);
   const C      middle = has_middle(n) ? end_at<Format, C>(slots, Format::middle(n)) : first;
   const auto   from   = reinterpret_cast<const C*>(slots + Format::first_pair(n));

@@ -30,7 +30,7 @@ inline void report(const fft_sizes& sizes, int* spec, int* init, int* work) {
 // caller.
 template <class T> T scale_of(int order, int flag) {
   const double n = held(double(int64_t(1) << order));
-  if (flag == fftScaleBoth) return T(1.0 / _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(n))));
+  if (flag == fftScaleBoth) return T(1.0 / root(n));
   return T(1) / T(n);
 }
 

@@ -189,26 +189,5 @@ TEST(Rounding, MaskedScopeKeepsExceptionsFromTheCaller) {
   _mm_setcsr(mine);
 }
 
-uint16_t extended_word() {
-  uint16_t word;
-  __asm__ volatile("fnstcw %0" : "=m"(word));
-  return word;
-}
-
-TEST(Rounding, ExtendedScopeSetsAndRestores) {
-  const uint16_t mine = extended_word();
-  for (uint16_t word : {0x037F, 0x027F, 0x0C7F, 0x007F, 0x0340, 0x0F7F}) {
-    __asm__ volatile("fldcw %0" : : "m"(word));
-    {
-      const extended_mode scope;
-      EXPECT_EQ(extended_word() & 0x0F3F, 0x033F);
-      volatile long double zero = 0, inf = 1 / zero;
-      (void)inf;
-    }
-    EXPECT_EQ(extended_word(), word);
-    __asm__ volatile("fnclex\n\tfldcw %0" : : "m"(mine));
-  }
-}
-
 }  // namespace
 }  // namespace tav::TAV_VARIANT

@@ -168,11 +168,11 @@ TEST(SortHeap, TakesOver) {
       for (Tav32s& x : v) x = data.below(int(n));
       const auto before = v;
       quicksort(key_array<4>{reinterpret_cast<char*>(v.data())}, n, patience);
-      ASSERT_EQ(v, oracle::sorted(before, oracle::direction::up));
+      ASSERT_EQ(v, oracle::sorted(before, oracle::sort_way::up));
       v = before;
       for (size_t i = 0; i < n; ++i) index[i] = int(i);
       quicksort(pair_arrays<Tav32s>{v.data(), index.data()}, n, patience);
-      ASSERT_EQ(v, oracle::sorted(before, oracle::direction::up));
+      ASSERT_EQ(v, oracle::sorted(before, oracle::sort_way::up));
       ASSERT_TRUE(oracle::tells_places(index, before, v));
     }
 }
