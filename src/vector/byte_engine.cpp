@@ -70,7 +70,9 @@ TAV_INLINE round_of_bytes load_round(const Tav8u* src) {
 }
 
 template <access Store> TAV_INLINE void store_round(Tav8u* dst, const round_of_bytes& r) {
-#pragma GCC                             unroll 4
+// clang-format off
+#pragma GCC unroll 4
+  // clang-format on
   for (size_t k = 0; k < round_bytes / 16; ++k) store_bits<Store>(dst + 16 * k, r.v[k]);
 }
 
