@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "frame/variant_table.h"
+#include "fuzz/in_place.h"
 #include "fuzz/input.h"
 
 namespace fuzz {
@@ -16,58 +17,69 @@ bool holds(std::string_view name, std::initializer_list<const char*> words) {
 bool begins(std::string_view name, std::initializer_list<const char*> words) {
   return std::any_of(words.begin(), words.end(), [&](const char* w) { return name.rfind(w, 0) == 0; });
 }
-bool is_one_of(std::string_view name, std::initializer_list<const char*> names) {
-  return std::find(names.begin(), names.end(), name) != names.end();
-}
 
 // How the arrays of a call are measured.
 struct measures {
-  int    given;              // the length that is passed
-  int    before    = 0;      // integers in front of it
-  size_t elements  = 0;      // of a source
-  size_t results   = 0;      // of a destination
-  size_t bytes     = 0;      // of an array of bytes, which may hold elements of another width
-  int    lines     = 0;      // arrays in an array of arrays, which share the elements
-  bool   stride    = false;  // an integer is the distance of a source's elements in bytes
-  bool   offsets   = false;  // all integers but the length are offsets in bits
-  bool   unsigneds = false;  // the length has no sign
+  int    given;             // the length that is passed
+  size_t elements = 0;      // of a source
+  size_t results  = 0;      // of a destination
+  size_t bytes    = 0;      // of an array of bytes, which may hold elements of another width
+  int    lines    = 0;      // arrays in an array of arrays, which share the elements
+  bool   stride   = false;  // an integer is the distance of a source's elements in bytes
+  bool   offsets  = false;  // all integers but the length are offsets in bits
 };
 
-measures measure(std::string_view name, input& in) {
+// Reductions have their length before the results, which are one each.
+bool is_reduction(std::string_view name) {
+  return begins(name, {"Sum_", "Mean", "StdDev", "Norm_", "NormDiff_", "DotProd", "Max_", "Min_", "MaxIndx", "MinIndx",
+                       "MaxAbs", "MinAbs", "MinMax", "MaxOrder", "CountInRange", "ZeroCrossing", "Update"});
+}
+
+template <class A> inline constexpr bool is_count = std::is_same_v<A, int> || std::is_same_v<A, unsigned>;
+
+// Which argument is the length: mostly the first integer behind the last pointer.
+template <class... A> size_t place_of_length(std::string_view name) {
+  constexpr bool count[] = {is_count<A>...}, pointer[] = {std::is_pointer_v<A>...};
+  constexpr auto last = [](const bool* flags) {
+    size_t n = sizeof...(A);
+    while (n > 0 && !flags[n - 1]) --n;
+    return n - 1;
+  };
+  const auto first = [&](size_t from) { return size_t(std::find(count + from, std::end(count), true) - count); };
+  if (holds(name, {"_1u"})) return last(count);
+  if (holds(name, {"_D2L"})) return first(0) + 1;
+  if (is_reduction(name) || begins(name, {"PackBits"})) return first(0);
+  return first(last(pointer) + 1);
+}
+
+measures measure(std::string_view name, bool is_unsigned, input& in) {
   const int    len = in.length();
   const size_t n   = size_t(len);
   measures     m{.given = len, .elements = n, .results = n, .bytes = n};
+  if (in.one_in(24)) m.given = is_unsigned ? 0 : in.refused_length();
 
-  m.unsigneds = begins(name, {"ZeroCrossing", "Convert_16s8s", "Convert_64s64f", "AddC_64s_Sfs", "AddC_64u_Sfs",
-                              "MulC_64s_ISfs", "MulC_64f64s", "DivC_64s_ISfs"})
-                || is_one_of(name, {"MinEvery_32f", "MinEvery_64f", "MaxEvery_32f", "MaxEvery_64f"});
-  if (in.one_in(24)) m.given = m.unsigneds ? 0 : in.refused_length();
-
-  if (holds(name, {"C_32s_", "CRev_32s_", "ShiftC_", "PolarToCart_16sc", "PolarToCart_32sc"})
-      || is_one_of(name, {"Set_32s"}))
-    m.before = 1;
   if (holds(name, {"_D2L"})) {
-    m.before = 1, m.lines = 1 + in.below(4);
+    m.lines    = 1 + in.below(4);
     m.elements = m.results = m.bytes = n * size_t(m.lines);
   }
   if (holds(name, {"24"})) m.bytes *= 3;
-  if (holds(name, {"_1u"})) m.before = 2, m.offsets = true, m.bytes = (n + 7) / 8 + 1;
+  if (holds(name, {"_1u"})) m.offsets = true, m.bytes = (n + 7) / 8 + 1;
   if (begins(name, {"PackBits"})) m.offsets = true, m.bytes = 4 * n + 1;
-  if (begins(name, {"SortRadixIndex"})) m.before = 1, m.stride = true;
-  if (begins(name, {"Sum_", "Mean", "StdDev", "Norm_", "NormDiff_", "DotProd", "Max_", "Min_", "MaxIndx", "MinIndx",
-                    "MaxAbs", "MinAbs", "MinMax", "MaxOrder", "CountInRange", "ZeroCrossing", "Update"}))
-    m.results = 1;
+  m.stride = begins(name, {"SortRadixIndex"});
+  if (is_reduction(name)) m.results = 1;
   return m;
 }
 
 // The arguments of one call, drawn in their order.
 class arguments {
  public:
-  arguments(input& in, const measures& m) : in_(in), m_(m), null_(in.one_in(24) ? in.below(3) : -1) {}
+  arguments(input& in, const measures& m, size_t length)
+      : in_(in), m_(m), length_(length), null_(in.one_in(24) ? in.below(4) : -1) {}
 
   template <class A> A next() {
+    const size_t place = place_++;
     if constexpr (!std::is_pointer_v<A>)
-      return number<A>();
+      return place == length_ ? A(length<A>()) : number<A>();
     else if constexpr (std::is_pointer_v<std::remove_pointer_t<A>>)
       return lines<std::remove_pointer_t<A>>();
     else
@@ -92,6 +104,10 @@ class arguments {
   }
   void restore() {
     for (array& a : arrays_) a.held.restore();
+  }
+  // Of a call in place.
+  const memory& destination() const {
+    return std::find_if(arrays_.begin(), arrays_.end(), [](const array& a) { return !a.is_source; })->held;
   }
 
  private:
@@ -141,40 +157,62 @@ class arguments {
     return static_cast<P*>(static_cast<void*>(lines_));
   }
 
+  template <class A> A length() {
+    if constexpr (is_count<A>) return A(m_.given);
+    return {};
+  }
   template <class A> A number() {
-    if constexpr (std::is_same_v<A, int> || std::is_same_v<A, unsigned>) {
-      if (std::is_same_v<A, int> || m_.unsigneds) return A(integer());
+    if constexpr (std::is_same_v<A, int>) {
+      if (m_.stride) return stride_;
+      if (m_.lines != 0) return m_.lines;
+      return m_.offsets ? in_.below(8) : in_.number();
     }
     return in_.data().value<A>();
-  }
-  int integer() {
-    const int place = integers_++;
-    if (place == m_.before) return m_.given;
-    if (m_.stride) return stride_ == 0 ? 1 : stride_;
-    if (m_.lines != 0) return m_.lines;
-    return m_.offsets ? in_.below(8) : in_.number();
   }
 
   input&           in_;
   measures         m_;
-  int              null_, integers_ = 0, stride_ = 0;
+  size_t           length_, place_ = 0;
+  int              null_, stride_  = 1;
   bool             has_null_ = false;
   void*            lines_[4];
   std::list<array> arrays_;
 };
 
 void check(const char* name, TavStatus status, const arguments& args) {
-  if (status > 27 || status < -300) fail(name, "a status that does not exist");
-  if (args.with_null() && status >= 0 && !holds(name, {"Indx", "RealToCplx"})) fail(name, "a null pointer was accepted");
+  if (args.with_null() && status >= 0 && !holds(name, {"Indx", "RealToCplx"}))
+    fail(name, "a null pointer was accepted");
   const bool keeps_all = status < 0 && !begins(name, {"CartToPolar"});  // which may have written the magnitudes
   if (!args.untouched(keeps_all))
     fail(name, keeps_all ? "an error, and something was written" : "a source was written");
   args.look();
 }
 
+// A call in place gives what the call apart gives.
+template <class... A>
+void check_apart(const char* name, TavStatus status, const arguments& args, const std::tuple<A...>& values, input& in) {
+  using form = apart<A...>;
+  if constexpr (form::possible) {
+    using T          = typename form::element;
+    auto* const call = export_of<typename form::function>(name_apart(name));
+    if (call == nullptr || status < 0) return;
+    const memory& done = args.destination();
+    const size_t  n    = done.size() / sizeof(T);
+    const memory  from(in, n, T{}), to(in, n, T{});
+    done.copy_before(from.data());
+    const auto apart_from_it = [&](A... a) {
+      return form::call(call, reinterpret_cast<const T*>(from.data()), reinterpret_cast<T*>(to.data()), a...);
+    };
+    if (std::apply(apart_from_it, values) != status) fail(name, "the call apart has another status");
+    const auto a = done.values<T>(), b = to.values<T>();
+    if (!std::equal(a.begin(), a.end(), b.begin(), agree<T>)) fail(name, "the call apart gives other results");
+  }
+}
+
 template <class... A> void call_with_arrays(const char* name, void (*function)(), input& in) {
-  const measures         m = measure(name, in);
-  arguments              args(in, m);
+  const size_t           length        = place_of_length<A...>(name);
+  const bool             is_unsigned[] = {std::is_same_v<A, unsigned>...};
+  arguments              args(in, measure(name, is_unsigned[length], in), length);
   const std::tuple<A...> values{args.template next<A>()...};
   const auto             run = [&](uint32_t variant) {
     tav::tav_variant_index = variant;
@@ -185,6 +223,7 @@ template <class... A> void call_with_arrays(const char* name, void (*function)()
 
   const TavStatus status  = run(0);
   const auto      results = args.results();
+  check_apart<A...>(name, status, args, values, in);
   args.restore();
   if (run(1) != status) fail(name, "the variants differ in their status");
   if (args.results() != results) fail(name, "the variants differ in integers");

@@ -27,19 +27,34 @@ template <class F> struct iir_row {
   static size_t dly_count(int order) { return size_t(order); }
 };
 
-}  // namespace
+// Of the same states, with taps in floats.
+template <class F, class Tap, auto* GetStateSize, auto* Init, auto* InitAlloc, auto* SetTaps>
+struct iir_row_from_floats : iir_row<F> {
+  using tap                        = Tap;
+  static constexpr auto get_size   = GetStateSize;
+  static constexpr auto init       = Init;
+  static constexpr auto init_alloc = InitAlloc;
+  static constexpr auto set_taps   = SetTaps;
+};
+using iir_32s_16s32f =
+    iir_row_from_floats<test::iir_32s_16s, Tav32f, &tavsIIRGetStateSize32s_16s32f, &tavsIIRInit32s_16s32f,
+                        &tavsIIRInitAlloc32s_16s32f, &tavsIIRSetTaps32s_16s32f>;
+using iir_32sc_16sc32fc =
+    iir_row_from_floats<test::iir_32sc_16sc, Tav32fc, &tavsIIRGetStateSize32sc_16sc32fc, &tavsIIRInit32sc_16sc32fc,
+                        &tavsIIRInitAlloc32sc_16sc32fc, &tavsIIRSetTaps32sc_16sc32fc>;
 
-void add_biquad_rows(std::vector<row>& rows);
+}  // namespace
 
 void add_iir_rows(std::vector<row>& rows) {
   using namespace test;
-#define TAV_ROW(name) rows.push_back({#name, nullptr, &call_filter<iir_row<name>>});
-  TAV_ROW(iir_32f)
-  TAV_ROW(iir_32fc) TAV_ROW(iir_32f_16s) TAV_ROW(iir_32fc_16sc) TAV_ROW(iir_32s_16s) TAV_ROW(iir_32sc_16sc)
-      TAV_ROW(iir_64f) TAV_ROW(iir_64fc) TAV_ROW(iir_64f_32f) TAV_ROW(iir_64fc_32fc) TAV_ROW(iir_64f_32s)
-          TAV_ROW(iir_64fc_32sc) TAV_ROW(iir_64f_16s) TAV_ROW(iir_64fc_16sc)
+#define TAV_ROW(name) {#name, nullptr, &call_filter<iir_row<name>>}
+  rows.insert(rows.end(), {TAV_ROW(iir_32f), TAV_ROW(iir_32fc), TAV_ROW(iir_32f_16s), TAV_ROW(iir_32fc_16sc),
+                           TAV_ROW(iir_32s_16s), TAV_ROW(iir_32sc_16sc), TAV_ROW(iir_64f), TAV_ROW(iir_64fc),
+                           TAV_ROW(iir_64f_32f), TAV_ROW(iir_64fc_32fc), TAV_ROW(iir_64f_32s), TAV_ROW(iir_64fc_32sc),
+                           TAV_ROW(iir_64f_16s), TAV_ROW(iir_64fc_16sc)});
 #undef TAV_ROW
-              add_biquad_rows(rows);
+  rows.push_back({"iir_32s_16s32f", nullptr, &call_filter<iir_32s_16s32f>});
+  rows.push_back({"iir_32sc_16sc32fc", nullptr, &call_filter<iir_32sc_16sc32fc>});
 }
 
 }  // namespace fuzz
