@@ -27,12 +27,17 @@ struct unit_state {
 
 void set_word(uint16_t word) { __asm__ volatile("fldcw %0" : : "m"(word) : "memory"); }
 
-// The test's own mode comes back behind it.
+void lower_flags() { __asm__ volatile("fnclex"); }
+
+// No flag is up when it begins. The test's own mode comes back behind it.
 class callers_mode {
  public:
-  explicit callers_mode(uint16_t word) : mine_(unit_state::now().control) { set_word(word); }
+  explicit callers_mode(uint16_t word) : mine_(unit_state::now().control) {
+    lower_flags();
+    set_word(word);
+  }
   ~callers_mode() {
-    __asm__ volatile("fnclex");
+    lower_flags();
     set_word(mine_);
   }
   callers_mode(const callers_mode&)            = delete;
