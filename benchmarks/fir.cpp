@@ -85,7 +85,7 @@ template <class T> class fftw_filter {
   std::vector<float> spectrum_;
 };
 
-const char* account_of(int taps) { return taps == 8 ? "FIR, 8 taps" : ""; }
+const char* account_of(int taps) { return taps == 8 ? "FIR, 8 taps" : taps == 32 ? "FIR, 32 taps" : ""; }
 double      goal_of(int taps) { return taps <= 8 ? 2.0 : taps < 64 ? 1.0 : 1.1; }
 
 constexpr double rounding = 1e-6;
